@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QWidget>
+
+#include <memory>
+
+/// The gallery's window: a list of the pages at the left, the chosen page at the right.
+class GalleryWindow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    GalleryWindow();
+    ~GalleryWindow() override;
+
+    /// The window that holds \a page, or null.
+    static GalleryWindow *of(const QWidget *page);
+
+    QStringList pageNames() const;
+    /// Shows the page of that name, compared without case; an unknown name changes nothing and
+    /// gives false.
+    bool showPage(const QString &name);
+
+public Q_SLOTS:
+    /// Builds every page again, after the colours or the style sheet changed.
+    void rebuildPages();
+
+private:
+    void showRow(int row);
+
+    struct Private;
+    const std::unique_ptr<Private> d;
+};

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QEvent>
+#include <QWidget>
+
+/// Counts the paint events that a widget gets.
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
+
+    int count() const { return m_count; }
+    void reset() { m_count = 0; }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            ++m_count;
+        return false;
+    }
+
+private:
+    int m_count = 0;
+};
