@@ -1,0 +1,174 @@
+#include "data/xmlscan.h"
+
+#include <QByteArray>
+#include <QTextCodec>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr int kMaxDepth = 256;
+constexpr int kMaxAttributes = 256;
+constexpr int kMaxElements = 1 << 20;
+constexpr int kMaxExpansion = 64 * 1024 * 1024;
+
+/// A cursor over the markup of a document. Every step() either moves it on or fails.
+class MarkupScan
+{
+public:
+    explicit MarkupScan(const QByteArray &bytes)
+        : m_bytes(bytes)
+    {
+    }
+
+    bool isBounded()
+    {
+        while ((m_pos = m_bytes.indexOf('<', m_pos)) >= 0) {
+            if (!step())
+                return false;
+        }
+        return !m_longestEntity || m_bytes.count('&') <= kMaxExpansion / m_longestEntity;
+    }
+
+private:
+    bool at(const char *text) const
+    {
+        return qstrncmp(m_bytes.constData() + m_pos, text, qstrlen(text)) == 0;
+    }
+
+    /// Moves behind the next \a end, or to the end of the bytes where the parser will stop as well.
+    bool skipPast(const char *end, int from)
+    {
+        const int found = m_bytes.indexOf(end, from);
+        m_pos = found < 0 ? m_bytes.size() : found + int(qstrlen(end));
+        return true;
+    }
+
+    bool step()
+    {
+        if (at("<!--"))
+            return skipPast("-->", m_pos + 4);
+        if (at("<![CDATA["))
+            return skipPast("]]>", m_pos + 9);
+        if (at("<?"))
+            return skipPast("?>", m_pos + 2);
+        if (at("<!"))
+            return doctype();
+        if (at("</")) {
+            --m_depth;
+            return skipPast(">", m_pos + 2);
+        }
+        return startTag();
+    }
+
+    bool startTag()
+    {
+        int attributes = 0;
+        const int size = m_bytes.size();
+        for (++m_pos; m_pos < size && m_bytes.at(m_pos) != '>'; ++m_pos) {
+            if (isQuote() && (!skipQuoted() || ++attributes > kMaxAttributes))
+                return false;
+        }
+        const bool empty = m_pos < size && m_bytes.at(m_pos - 1) == '/';
+        m_depth += empty ? 0 : 1;
+        return m_depth <= kMaxDepth && ++m_elements <= kMaxElements;
+    }
+
+    bool isQuote() const { return m_bytes.at(m_pos) == '"' || m_bytes.at(m_pos) == '\''; }
+
+    /// From an opening quote to its closing one; an open end is malformed.
+    bool skipQuoted()
+    {
+        const int end = m_bytes.indexOf(m_bytes.at(m_pos), m_pos + 1);
+        if (end < 0)
+            return false;
+        m_quoted = end - m_pos - 1;
+        m_pos = end;
+        return true;
+    }
+
+    /// A document type may declare plain entities, as some drawing programs do for name spaces;
+    /// ones that nest or hold markup could hide what this scan is looking for, and expand to
+    /// anything.
+    bool doctype()
+    {
+        bool inSubset = false;
+        for (m_pos += 2; m_pos < m_bytes.size(); ++m_pos) {
+            const char c = m_bytes.at(m_pos);
+            if (c == '[') {
+                inSubset = true;
+            } else if (c == ']') {
+                inSubset = false;
+            } else if (c == '%') {
+                return false;
+            } else if (c == '>' && !inSubset) {
+                return true;
+            } else if (at("<!--")) {
+                skipPast("-->", m_pos + 4);
+                --m_pos;
+            } else if (at("<?")) {
+                skipPast("?>", m_pos + 2);
+                --m_pos;
+            } else if (isQuote()) {
+                const int begin = m_pos + 1;
+                if (!skipQuoted() || !isPlain(begin))
+                    return false;
+                m_longestEntity = std::max(m_longestEntity, m_quoted);
+            }
+        }
+        return true;
+    }
+
+    bool isPlain(int begin) const
+    {
+        const char *first = m_bytes.constData() + begin;
+        const std::array<char, 3> special = {'<', '&', '%'};
+        return std::find_first_of(first, first + m_quoted, special.begin(), special.end())
+            == first + m_quoted;
+    }
+
+    const QByteArray &m_bytes;
+    int m_pos = 0;
+    int m_depth = 0;
+    int m_elements = 0;
+    int m_quoted = 0;
+    int m_longestEntity = 0;
+};
+
+QByteArray declaredEncoding(const QByteArray &bytes)
+{
+    if (!bytes.startsWith("<?xml"))
+        return QByteArray();
+    const QByteArray declaration = bytes.left(bytes.indexOf("?>"));
+    const int name = declaration.indexOf("encoding");
+    if (name < 0)
+        return QByteArray();
+    const int equals = declaration.indexOf('=', name);
+    return declaration.mid(equals + 1).trimmed().mid(1).toLower();
+}
+
+} // namespace
+
+namespace vellum {
+
+bool hasAsciiEncoding(const QByteArray &bytes)
+{
+    static const std::array<const char *, 9> supersets = {
+        "utf-8", "utf8", "us-ascii", "ascii", "iso-8859-", "windows-", "koi8-", "gb", "euc-"};
+    const QByteArray encoding = declaredEncoding(bytes);
+    return encoding.isEmpty()
+        || std::any_of(supersets.begin(), supersets.end(),
+                       [&encoding](const char *name) { return encoding.startsWith(name); });
+}
+
+bool isBoundedXml(const QByteArray &bytes)
+{
+    const QTextCodec *codec = QTextCodec::codecForUtfText(bytes, nullptr);
+    const QByteArray plain = codec ? codec->toUnicode(bytes).toUtf8() : bytes;
+    if (plain.contains('\0') || (!codec && !hasAsciiEncoding(bytes)))
+        return false;
+    return MarkupScan(plain).isBounded();
+}
+
+} // namespace vellum
