@@ -1,0 +1,68 @@
+#include "common/cusuicommonfun.h"
+
+#include <QPainter>
+#include <QSvgRenderer>
+
+#include <qrcodegen.hpp>
+
+#include <string>
+
+namespace {
+
+constexpr int kBorderModules = 1;
+constexpr qint64 kMaxPixels = 64 * 1024 * 1024;
+/// Digits, the densest text, at medium level in the largest symbol.
+constexpr int kMaxCharacters = 5596;
+
+/// One path for all dark modules, a run of them in a row at a time: neighbours drawn one by one
+/// would show seams where a module is no whole number of pixels.
+QByteArray darkModulesPath(const qrcodegen::QrCode &code)
+{
+    QByteArray path;
+    const int size = code.getSize();
+    for (int y = 0; y < size; ++y) {
+        int x = 0;
+        while (x < size) {
+            const int start = x;
+            while (x < size && code.getModule(x, y))
+                ++x;
+            if (x > start)
+                path += 'M' + QByteArray::number(start + kBorderModules) + ','
+                    + QByteArray::number(y + kBorderModules) + 'h' + QByteArray::number(x - start)
+                    + "v1h-" + QByteArray::number(x - start) + 'z';
+            else
+                ++x;
+        }
+    }
+    return path;
+}
+
+QByteArray toSvg(const qrcodegen::QrCode &code)
+{
+    const QByteArray edge = QByteArray::number(code.getSize() + 2 * kBorderModules);
+    return R"(<?xml version="1.0" encoding="UTF-8"?><svg xmlns="http://www.w3.org/2000/svg" )"
+           R"(version="1.1" viewBox="0 0 )"
+        + edge + ' ' + edge + R"(" stroke="none"><rect width=")" + edge + R"(" height=")" + edge
+        + R"(" fill="#FFFFFF"/><path d=")" + darkModulesPath(code) + R"(" fill="#000000"/></svg>)";
+}
+
+} // namespace
+
+QPixmap generateQRCode(const QString &text, const QSize &size)
+{
+    if (size.isEmpty() || qint64(size.width()) * size.height() > kMaxPixels
+        || text.size() > kMaxCharacters)
+        return {};
+    QByteArray svg;
+    try {
+        const std::string utf8 = text.toStdString();
+        svg = toSvg(qrcodegen::QrCode::encodeText(utf8.c_str(), qrcodegen::QrCode::Ecc::MEDIUM));
+    } catch (const qrcodegen::data_too_long &) {
+        return {};
+    }
+    QPixmap pixmap(size);
+    QSvgRenderer renderer(svg);
+    QPainter painter(&pixmap);
+    renderer.render(&painter);
+    return pixmap;
+}

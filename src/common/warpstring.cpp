@@ -1,0 +1,305 @@
+#include "common/cusuicommonfun.h"
+
+#include <QFontMetricsF>
+#include <QHash>
+#include <QVector>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace {
+
+/// A stretch of this many characters is measured prefix by prefix; a search would not be faster.
+constexpr int kShortStretch = 4;
+constexpr char16_t kFirstIdeograph = 0x4e00;
+constexpr char16_t kLastIdeograph = 0x9fa5;
+
+bool isIdeograph(QChar c)
+{
+    return c.unicode() >= kFirstIdeograph && c.unicode() <= kLastIdeograph;
+}
+
+bool breaksBefore(QChar c)
+{
+    return c == QLatin1Char(' ') || isIdeograph(c);
+}
+
+bool breaksAfter(QChar c)
+{
+    return breaksBefore(c) || c == QLatin1Char(',') || c == QLatin1Char(';')
+        || c == QLatin1Char('.');
+}
+
+/// Whether the width of a text that ends in \a c can be taken to grow with each character: no
+/// combining or joining, no right-to-left order, no tab, no surrogate. The ranges that texts of a
+/// client are mostly made of are enough; what is left out is only slower.
+bool growsSteadily(QChar c)
+{
+    static constexpr std::pair<char16_t, char16_t> ranges[] = {
+        {0x0020, 0x007e}, {0x00a0, 0x00ac}, {0x00ae, 0x02ff}, // Latin, without the soft hyphen
+        {0x0391, 0x03a1}, {0x03a3, 0x03ff}, {0x0400, 0x0482}, {0x048a, 0x052f}, // Greek, Cyrillic
+        {0x2012, 0x2027}, {0x2030, 0x203a}, {0x20a0, 0x20bf}, // punctuation, currencies
+        {0x3000, 0x3029}, {0x3041, 0x3096}, {0x30a0, 0x30fe}, // CJK punctuation, kana
+        {0x3400, 0x4dbf}, {0x4e00, 0x9fff}, {0xff01, 0xff60}, // ideographs, full-width forms
+    };
+    const char16_t unit = c.unicode();
+    return std::any_of(std::begin(ranges), std::end(ranges), [unit](const auto &range) {
+        return range.first <= unit && unit <= range.second;
+    });
+}
+
+/// Breaks one text. A line is always a stretch [m_line, end) of the text and its last word a
+/// stretch [m_word, end), so no line is ever built up: only the first character that no longer fits
+/// is looked for.
+class Wrapper
+{
+public:
+    Wrapper(const QFontMetrics &metrics, const QString &text, int width)
+        : m_metrics(metrics)
+        , m_fineMetrics(metrics)
+        , m_text(text)
+        , m_width(width)
+    {
+        m_steadyLatin.fill(Unknown);
+    }
+
+    QString wrap(int *lineCount);
+
+private:
+    enum Steadiness : char
+    {
+        Unknown,
+        Steady,
+        Unsteady
+    };
+
+    /// The stretch of a line in which a search is possible, with the expected width of each prefix.
+    struct Stretch
+    {
+        int end;       ///< behind the last character
+        int strong;    ///< the first character that isn't common to all scripts, or end
+        int estimated; ///< where the line is expected to end
+    };
+
+    bool fits(int end) const { return advance(end) <= m_width; }
+    int advance(int end) const
+    {
+        return m_metrics.horizontalAdvance(
+            QString::fromRawData(m_text.constData() + m_line, end - m_line));
+    }
+    bool isSteady(QChar c);
+    qreal expectedAdvance(QChar c);
+    void take(int end, QString *result);
+    int firstMisfit(int from);
+    int firstMisfitPlainly(int from, int end) const;
+    int firstMisfitBySearch(int from, const Stretch &stretch) const;
+    int boundary(int low, int high, int guess) const;
+    int withoutEarlierMisfit(int from, int found) const;
+    Stretch steadyStretch();
+    bool isAsExpected(int end) const;
+
+    const QFontMetrics &m_metrics;
+    const QFontMetricsF m_fineMetrics;
+    const QString &m_text;
+    const int m_width;
+    const int m_slack = m_metrics.height();
+    int m_line = 0;
+    int m_word = 0;
+    int m_lineCount = 0;
+    QVector<qreal> m_expected; ///< expected width of the line's prefixes of 1, 2, 3... characters
+    std::array<Steadiness, 256> m_steadyLatin;
+    std::array<qreal, 256> m_latinAdvances{};
+    QHash<ushort, qreal> m_advances;
+};
+
+qreal Wrapper::expectedAdvance(QChar c)
+{
+    // Ideographs share one advance in all but freak fonts, and an estimate is all that is needed.
+    const ushort unit = isIdeograph(c) ? kFirstIdeograph : c.unicode();
+    const auto found = m_advances.constFind(unit);
+    if (found != m_advances.constEnd())
+        return *found;
+    return *m_advances.insert(unit, m_fineMetrics.horizontalAdvance(QString(QChar(unit))));
+}
+
+/// Whether \a c lets the search in. A spacing that eats a character up is one reason why not.
+bool Wrapper::isSteady(QChar c)
+{
+    if (c.unicode() >= m_steadyLatin.size())
+        return growsSteadily(c) && expectedAdvance(c) > 0;
+    Steadiness &known = m_steadyLatin[c.unicode()];
+    if (known == Unknown) {
+        known = growsSteadily(c) && expectedAdvance(c) > 0 ? Steady : Unsteady;
+        if (known == Steady)
+            m_latinAdvances[c.unicode()] = expectedAdvance(c);
+    }
+    return known == Steady;
+}
+
+/// The line's start, as far as its characters are steady and well beyond the width that is
+/// expected.
+Wrapper::Stretch Wrapper::steadyStretch()
+{
+    const qreal enough = qMax(0, m_width) * 1.25 + 2 * m_slack;
+    Stretch stretch{m_line, -1, -1};
+    m_expected.clear();
+    qreal sum = 0;
+    for (; stretch.end < m_text.size() && sum <= enough; ++stretch.end) {
+        const QChar c = m_text.at(stretch.end);
+        if (!isSteady(c))
+            break;
+        sum += c.unicode() < m_latinAdvances.size() ? m_latinAdvances[c.unicode()]
+                                                    : expectedAdvance(c);
+        m_expected.append(sum);
+        if (stretch.strong < 0 && c.script() > QChar::Script_Common)
+            stretch.strong = stretch.end;
+        if (stretch.estimated < 0 && sum > m_width)
+            stretch.estimated = stretch.end;
+    }
+    if (stretch.strong < 0)
+        stretch.strong = stretch.end;
+    if (stretch.estimated < 0)
+        stretch.estimated = stretch.end;
+    return stretch;
+}
+
+/// Whether the prefix up to \a end is about as wide as its characters. Where it isn't, the font
+/// makes something else of whole words, and nothing is known of the widths in between.
+bool Wrapper::isAsExpected(int end) const
+{
+    if (end == m_line)
+        return true;
+    const qreal expected = m_expected.at(end - m_line - 1);
+    return std::abs(advance(end) - expected) <= expected / 5 + m_slack;
+}
+
+int Wrapper::firstMisfitPlainly(int from, int end) const
+{
+    int i = from;
+    while (i < end && fits(i + 1))
+        ++i;
+    return i;
+}
+
+/// The character in [low, high) with which the line stops fitting, or high, if widths grow: steps
+/// of doubling length from the guess, then halving.
+int Wrapper::boundary(int low, int high, int guess) const
+{
+    int step = 1;
+    int probe = qBound(low, guess, high - 1);
+    const bool guessFits = fits(probe + 1);
+    while (low < high && fits(probe + 1) == guessFits) {
+        (guessFits ? low : high) = guessFits ? probe + 1 : probe;
+        probe = guessFits ? qMin(probe + step, high - 1) : qMax(probe - step, low);
+        step *= 2;
+    }
+    while (low < high) {
+        const int middle = low + (high - low) / 2;
+        if (fits(middle + 1))
+            low = middle + 1;
+        else
+            high = middle;
+    }
+    return low;
+}
+
+/// Kerning and ligatures can make a line narrower by a character more: walks back from \a found
+/// until the prefixes are narrower than the width by more than such a step.
+int Wrapper::withoutEarlierMisfit(int from, int found) const
+{
+    int first = found;
+    for (int i = found - 1; i >= from; --i) {
+        const int width = advance(i + 1);
+        if (width > m_width)
+            first = i;
+        else if (width + m_slack / 2 <= m_width)
+            break;
+    }
+    return first;
+}
+
+int Wrapper::firstMisfitBySearch(int from, const Stretch &stretch) const
+{
+    // Blanks, digits and punctuation take the font of the first letter behind them, so the letter
+    // may make them all narrower: prefixes with and without it are searched one after the other.
+    int low = from;
+    for (const int high : {stretch.strong, stretch.end}) {
+        if (low >= high)
+            continue;
+        const int found = withoutEarlierMisfit(low, boundary(low, high, stretch.estimated));
+        if (found < high)
+            return found;
+        low = high;
+    }
+    return low;
+}
+
+/// The first character from \a from on with which the line is too wide, or the text's size.
+int Wrapper::firstMisfit(int from)
+{
+    const int size = m_text.size();
+    const Stretch stretch = steadyStretch();
+    if (stretch.end - from <= kShortStretch)
+        return firstMisfitPlainly(from, size);
+    const int found = firstMisfitBySearch(from, stretch);
+    if (!isAsExpected(found))
+        return firstMisfitPlainly(from, size);
+    return found < stretch.end ? found : firstMisfitPlainly(found, size);
+}
+
+void Wrapper::take(int end, QString *result)
+{
+    if (m_lineCount++ > 0)
+        result->append(QLatin1Char('\n'));
+    result->append(m_text.constData() + m_line, end - m_line);
+    m_line = end;
+}
+
+QString Wrapper::wrap(int *lineCount)
+{
+    QString result;
+    result.reserve(m_text.size() + m_text.size() / 8);
+    int from = 0;
+    while (from < m_text.size()) {
+        const int misfit = firstMisfit(from);
+        for (int i = misfit; i > from && i > m_word; --i) {
+            if (breaksAfter(m_text.at(i - 1)))
+                m_word = i;
+        }
+        if (misfit == m_text.size())
+            break;
+        const QChar c = m_text.at(misfit);
+        if ((misfit > m_line && breaksBefore(c)) || m_word == m_line) {
+            // A break stands here, or the line is one word that is too long: it ends here. A first
+            // character that is too wide by itself makes no empty line before it.
+            if (misfit > m_line)
+                take(misfit, &result);
+            m_word = misfit;
+        } else {
+            take(m_word, &result);
+        }
+        from = misfit + 1;
+        if (breaksAfter(c))
+            m_word = from;
+    }
+    if (m_line < m_text.size())
+        take(m_text.size(), &result);
+    *lineCount = m_lineCount;
+    return result;
+}
+
+} // namespace
+
+QString warpString(const QFontMetrics &metrics, const QString &text, int width, bool *wrapped,
+                   int *lineCount)
+{
+    int count = 1;
+    const bool fitsAsItIs = metrics.horizontalAdvance(text) <= width;
+    const QString result = fitsAsItIs ? text : Wrapper(metrics, text, width).wrap(&count);
+    if (lineCount)
+        *lineCount = count;
+    if (wrapped)
+        *wrapped = count > 1;
+    return result;
+}

@@ -1,0 +1,138 @@
+#include "common/cusscrollhoverpane.h"
+#include "common/cusuicommonfun.h"
+
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSplitter>
+
+#include <limits>
+
+namespace {
+
+constexpr int kSideMargin = 50;
+constexpr int kEndMargin = 130;
+constexpr int kFirstPane = 1;
+
+int clampedToInt(qint64 value)
+{
+    return int(
+        qBound<qint64>(std::numeric_limits<int>::min(), value, std::numeric_limits<int>::max()));
+}
+
+QScrollArea *nearestScrollArea(const QWidget *widget)
+{
+    for (QWidget *parent = widget->parentWidget(); parent; parent = parent->parentWidget()) {
+        if (auto *area = qobject_cast<QScrollArea *>(parent))
+            return area;
+    }
+    return nullptr;
+}
+
+/// The text cursor of an input, else the whole widget, in the coordinates of \a content.
+QRect focusRect(const QWidget *widget, const QWidget *content)
+{
+    const QVariant cursor = widget->inputMethodQuery(Qt::ImCursorRectangle);
+    const QRect rect = cursor != widget->QWidget::inputMethodQuery(Qt::ImCursorRectangle)
+        ? cursor.toRect()
+        : widget->rect();
+    return {widget->mapTo(content, rect.topLeft()), rect.size()};
+}
+
+QRect visibleRect(const QScrollArea *area)
+{
+    QRect rect(-area->widget()->pos(), area->viewport()->size());
+    const QList<CusScrollHoverPane *> panes = area->findChildren<CusScrollHoverPane *>();
+    for (const CusScrollHoverPane *pane : panes) {
+        // A pane of another scroll area inside this one covers nothing of ours.
+        if (pane->isVisible() && !area->widget()->isAncestorOf(pane)) {
+            rect.setHeight(rect.height() - pane->height());
+            break;
+        }
+    }
+    return rect;
+}
+
+/// The range of one axis, end exclusive.
+struct Span
+{
+    int begin;
+    int end;
+
+    int length() const { return end - begin; }
+};
+
+/// How far the content is to be scrolled along one axis; \a current where the focus is seen
+/// already.
+int scrolledTo(Span focus, Span visible, int viewportLength, int current)
+{
+    if (focus.length() > visible.length())
+        return focus.begin + (focus.length() - visible.length()) / 2;
+    if (focus.end > visible.end)
+        return focus.end - viewportLength;
+    return focus.begin < visible.begin ? focus.begin : current;
+}
+
+} // namespace
+
+QRect getWidgetGeometry(QWidget *widget, QWidget *ancestor)
+{
+    if (!widget || !ancestor || !ancestor->isAncestorOf(widget))
+        return {};
+    return {widget->mapTo(ancestor, widget->pos()), widget->size()};
+}
+
+void adjustButtonWidthWithText(QPushButton *button, int minWidth, int maxWidth, int extra1,
+                               int extra2)
+{
+    if (!button)
+        return;
+    button->ensurePolished();
+    const QMargins margins = button->contentsMargins();
+    const QString text = button->text();
+    // The pixel more for each character keeps wide letters from touching the button's border.
+    qint64 width = qint64(margins.left()) + margins.right() + text.size()
+        + button->fontMetrics().horizontalAdvance(text) + extra1 + extra2;
+    if (width <= minWidth)
+        width = minWidth;
+    else if (width > maxWidth)
+        width = maxWidth;
+    button->setFixedWidth(int(qBound<qint64>(0, width, QWIDGETSIZE_MAX)));
+}
+
+void adjustHorSplitterSize(QWidget *widget, QSplitter *splitter, int side, int size, int minSize)
+{
+    if (!widget || !splitter || minSize < 0)
+        return;
+    const QMargins margins = widget->contentsMargins();
+    const qint64 available = qint64(widget->width()) - margins.right() - margins.left();
+    const qint64 first = qMax<qint64>(side == kFirstPane ? size : available - size, minSize);
+    const QList<int> sizes = splitter->sizes();
+    if (sizes.size() == 2 && sizes.first() == first)
+        return;
+    splitter->setSizes({clampedToInt(first), clampedToInt(available - first)});
+}
+
+void ensureWidgetVisible(QWidget *widget)
+{
+    QScrollArea *area = widget ? nearestScrollArea(widget) : nullptr;
+    const QWidget *content = area ? area->widget() : nullptr;
+    if (!content || !content->isAncestorOf(widget) || content == widget)
+        return;
+    const QRect visible = visibleRect(area);
+    QRect focus = focusRect(widget, content);
+    if (visible.contains(focus))
+        return;
+    focus.adjust(-kSideMargin, -kEndMargin, kSideMargin, kEndMargin);
+
+    QScrollBar *horizontal = area->horizontalScrollBar();
+    const bool reversed = area->isRightToLeft();
+    const int left =
+        scrolledTo({focus.left(), focus.right() + 1}, {visible.left(), visible.right() + 1},
+                   area->viewport()->width(), visible.left());
+    // In a right-to-left layout the bar counts from the content's right end.
+    horizontal->setValue(reversed ? horizontal->maximum() - left : left);
+    area->verticalScrollBar()->setValue(scrolledTo({focus.top(), focus.bottom() + 1},
+                                                   {visible.top(), visible.bottom() + 1},
+                                                   area->viewport()->height(), visible.top()));
+}
