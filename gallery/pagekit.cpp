@@ -1,0 +1,110 @@
+#include "pagekit.h"
+
+#include <QFrame>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int kPageMargin = 24;
+constexpr int kCardPadding = 16;
+constexpr int kGap = 16;
+constexpr int kCaptionGap = 4;
+
+QLabel *namedLabel(const QString &text, const QString &objectName)
+{
+    auto *label = new QLabel(text);
+    label->setObjectName(objectName);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+} // namespace
+
+namespace PageKit {
+
+QVBoxLayout *pageLayout(QWidget *page, const QString &title, const QString &intro)
+{
+    page->setObjectName(QStringLiteral("gallery_page"));
+    page->setAttribute(Qt::WA_StyledBackground);
+    auto *outer = new QVBoxLayout(page);
+    outer->setContentsMargins(kPageMargin, kPageMargin - 4, kPageMargin, kPageMargin);
+    outer->setSpacing(0);
+    outer->addWidget(namedLabel(title, QStringLiteral("gallery_title")));
+    if (!intro.isEmpty()) {
+        auto *line = caption(intro);
+        line->setObjectName(QStringLiteral("gallery_intro"));
+        outer->addWidget(line);
+    }
+    outer->addSpacing(kGap);
+    auto *column = new QVBoxLayout;
+    column->setSpacing(kGap);
+    outer->addLayout(column);
+    outer->addStretch(1);
+    return column;
+}
+
+QLabel *heading(const QString &text)
+{
+    return namedLabel(text, QStringLiteral("gallery_heading"));
+}
+
+QFrame *card(const QString &title, QWidget *content)
+{
+    auto *layout = new QVBoxLayout;
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(content);
+    return card(title, layout);
+}
+
+QFrame *card(const QString &title, QLayout *content)
+{
+    auto *frame = new QFrame;
+    frame->setObjectName(QStringLiteral("gallery_card"));
+    auto *layout = new QVBoxLayout(frame);
+    layout->setContentsMargins(kCardPadding, kCardPadding - 4, kCardPadding, kCardPadding);
+    layout->setSpacing(kCardPadding - 4);
+    if (!title.isEmpty())
+        layout->addWidget(namedLabel(title, QStringLiteral("gallery_cardTitle")));
+    layout->addLayout(content);
+    return frame;
+}
+
+QLabel *caption(const QString &text)
+{
+    auto *label = namedLabel(text, QStringLiteral("gallery_caption"));
+    label->setWordWrap(true);
+    return label;
+}
+
+QWidget *captioned(QWidget *control, const QString &text)
+{
+    auto *box = new QWidget;
+    auto *layout = new QVBoxLayout(box);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(kCaptionGap);
+    layout->addWidget(control, 0, Qt::AlignLeft);
+    // A state's name is short; wrapping would let the layout squeeze it to a column of letters.
+    auto *label = namedLabel(text, QStringLiteral("gallery_caption"));
+    layout->addWidget(label, 0, Qt::AlignLeft);
+    return box;
+}
+
+QWidget *row(const QVector<QWidget *> &widgets, int spacing)
+{
+    auto *box = new QWidget;
+    auto *layout = new QHBoxLayout(box);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(spacing);
+    for (QWidget *widget : widgets)
+        layout->addWidget(widget, 0, Qt::AlignBottom);
+    layout->addStretch(1);
+    return box;
+}
+
+QLabel *signalLine(const QString &text)
+{
+    return namedLabel(text, QStringLiteral("gallery_signal"));
+}
+
+} // namespace PageKit
