@@ -6,7 +6,8 @@
 # ":/Resource/vellum.qss", and its icons lie under ":/Resource/icons/".
 function(vellum_add_starter_theme target)
     get_property(theme GLOBAL PROPERTY VELLUM_THEME_DIR)
-    file(GLOB icons CONFIGURE_DEPENDS RELATIVE ${theme} ${theme}/icons/*.svg)
+    file(GLOB icons RELATIVE ${theme} ${theme}/icons/*.svg)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${theme}/icons)
     set(entries "")
     foreach(file IN ITEMS ColorConfig.json vellum.qss LISTS icons)
         string(APPEND entries "    <file alias=\"${file}\">${theme}/${file}</file>\n")
