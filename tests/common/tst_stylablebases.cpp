@@ -1,0 +1,117 @@
+#include "support/guardedtest.h"
+
+#include <Vellum/CusDialog>
+#include <Vellum/CusFrame>
+#include <Vellum/CusGroupBox>
+#include <Vellum/CusMainWindow>
+#include <Vellum/CusMenuBar>
+#include <Vellum/CusProgressBar>
+#include <Vellum/CusScrollArea>
+#include <Vellum/CusScrollHoverPane>
+#include <Vellum/CusTabBar>
+#include <Vellum/CusTabWidget>
+#include <Vellum/CusToolBar>
+#include <Vellum/CusWidget>
+
+#include <QToolButton>
+#include <QWheelEvent>
+#include <QtTest>
+
+class TestStylableBases : public GuardedTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aTypeSelectorReachesOnlyTheClass();
+    void tabArrowsAreInvisible();
+    void tabsFillTheBar();
+    void theWheelKeepsTheTab();
+    void theHoverPaneWaitsAtTheLowerEdge();
+};
+
+template <typename Cus, typename Plain, typename... Arguments>
+static void compareStyles(Arguments... arguments)
+{
+    const QString selector = QString::fromLatin1(Cus::staticMetaObject.className());
+    qApp->setStyleSheet(selector + QStringLiteral(" { qproperty-statusTip: \"styled\" }"));
+    Cus styled(arguments...);
+    Plain plain;
+    styled.ensurePolished();
+    plain.ensurePolished();
+    qApp->setStyleSheet(QString());
+    QCOMPARE(styled.statusTip(), QStringLiteral("styled"));
+    QCOMPARE(plain.statusTip(), QString());
+}
+
+void TestStylableBases::aTypeSelectorReachesOnlyTheClass()
+{
+    QWidget *const none = nullptr;
+    compareStyles<CusWidget, QWidget>();
+    compareStyles<CusFrame, QFrame>(none, Qt::Tool);
+    compareStyles<CusDialog, QDialog>(none);
+    compareStyles<CusMainWindow, QMainWindow>();
+    compareStyles<CusGroupBox, QGroupBox>(QStringLiteral("Cameras"));
+    compareStyles<CusMenuBar, QMenuBar>();
+    compareStyles<CusToolBar, QToolBar>(QStringLiteral("PTZ"), none);
+    compareStyles<CusProgressBar, QProgressBar>();
+    compareStyles<CusTabBar, QTabBar>(none);
+    compareStyles<CusTabWidget, QTabWidget>();
+    compareStyles<CusScrollArea, QScrollArea>();
+}
+
+void TestStylableBases::tabArrowsAreInvisible()
+{
+    CusTabWidget tabs;
+    for (int camera = 1; camera <= 20; ++camera)
+        tabs.addTab(new QWidget, QStringLiteral("Camera %1").arg(camera));
+    tabs.resize(200, 150);
+    tabs.show();
+    tabs.grab();
+    tabs.resize(240, 150);
+    tabs.grab();
+    int shown = 0;
+    for (const QToolButton *arrow : tabs.tabBar()->findChildren<QToolButton *>()) {
+        shown += arrow->isVisible() ? 1 : 0;
+        QCOMPARE(arrow->size(), QSize(1, 1));
+    }
+    QCOMPARE(shown, 2); // the tabs do overflow: Qt would show both arrows
+    QVERIFY(tabs.tabBar()->height() < 60);
+}
+
+void TestStylableBases::tabsFillTheBar()
+{
+    CusTabBar bar(nullptr);
+    bar.resize(300, 0);
+    bar.addTab(QStringLiteral("Live"));
+    const int natural = bar.tabRect(0).height();
+    QVERIFY(natural > 0 && natural < 60);
+    bar.resize(300, 70);
+    bar.setTabText(0, QStringLiteral("Playback"));
+    QCOMPARE(bar.tabRect(0).height(), 70);
+}
+
+void TestStylableBases::theWheelKeepsTheTab()
+{
+    CusTabBar bar(nullptr);
+    bar.addTab(QStringLiteral("Live"));
+    bar.addTab(QStringLiteral("Playback"));
+    QWheelEvent wheel(QPointF(5, 5), QPointF(5, 5), QPoint(), QPoint(0, -120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    wheel.ignore();
+    QCoreApplication::sendEvent(&bar, &wheel);
+    QVERIFY(wheel.isAccepted());
+    QCOMPARE(bar.currentIndex(), 0);
+}
+
+void TestStylableBases::theHoverPaneWaitsAtTheLowerEdge()
+{
+    CusScrollArea area;
+    area.show();
+    auto *const pane = area.findChild<CusScrollHoverPane *>();
+    QVERIFY(pane && !pane->isVisible());
+    pane->show();
+    QCOMPARE(pane->geometry().bottomRight(), area.rect().bottomRight());
+}
+
+QTEST_MAIN(TestStylableBases)
+#include "tst_stylablebases.moc"
