@@ -1,10 +1,10 @@
 #include "common/clientthread.h"
 
 #include <QCoreApplication>
-#include <QMutex>
 #include <QTimer>
 
 #include <atomic>
+#include <mutex>
 
 namespace {
 
@@ -24,7 +24,7 @@ public:
 
     bool isDone()
     {
-        const QMutexLocker locker(&m_mutex);
+        const std::lock_guard<std::mutex> lock(m_mutex);
         return m_done;
     }
 
@@ -34,7 +34,7 @@ public:
     {
         // While the lock is held the function's end can't be passed, so finished() is still to
         // come.
-        const QMutexLocker locker(&m_mutex);
+        const std::lock_guard<std::mutex> lock(m_mutex);
         if (m_done)
             return false;
         m_waiter = nullptr;
@@ -52,7 +52,7 @@ protected:
         } catch (...) {
             // The library lets no exception through; a function that throws has ended.
         }
-        const QMutexLocker locker(&m_mutex);
+        const std::lock_guard<std::mutex> lock(m_mutex);
         m_done = true;
         if (m_waiter)
             m_waiter->quit();
@@ -62,7 +62,7 @@ private:
     Q_DISABLE_COPY(FunctionThread)
 
     const std::function<void()> m_fun;
-    QMutex m_mutex;
+    std::mutex m_mutex;
     QThread *m_waiter;
     bool m_done = false;
 };
@@ -71,7 +71,7 @@ private:
 
 struct ClientThread::Private
 {
-    QMutex funMutex;
+    std::mutex funMutex;
     std::function<void()> threadFun;
     std::atomic<bool> exitFlag{false};
     std::atomic<bool> abandoned{false};
@@ -99,7 +99,7 @@ void ClientThread::setThreadFun(const std::function<void()> &fun)
 {
     // The old function dies after the lock: what it captured may call back from its destructor.
     std::function<void()> other = fun;
-    const QMutexLocker locker(&d->funMutex);
+    const std::lock_guard<std::mutex> lock(d->funMutex);
     d->threadFun.swap(other);
 }
 
@@ -126,7 +126,7 @@ void ClientThread::run()
     setTerminationEnabled(false);
     std::unique_ptr<FunctionThread> function;
     {
-        const QMutexLocker locker(&d->funMutex);
+        const std::lock_guard<std::mutex> lock(d->funMutex);
         if (!d->threadFun)
             return;
         function = std::make_unique<FunctionThread>(d->threadFun, this);
@@ -157,7 +157,7 @@ void ClientThread::run()
     }
 
     if (function->abandon())
-        function.release();
+        static_cast<void>(function.release());
     else
         function->wait();
     d->functionThread = nullptr;
