@@ -18,8 +18,9 @@ class QPainter;
 /// parsed at the first tint or paint; after that it is not touched again.
 ///
 /// A missing or malformed file paints nothing, and so does one that would crash or stall the
-/// renderer: references that form a cycle or multiply, and what exceeds the limits of
-/// CusDomDocument. Nothing is reported. For the GUI thread only.
+/// renderer: references that form a cycle or multiply, pictures and style sheets in other files,
+/// dash patterns far too fine, and what exceeds the limits of CusDomDocument. Nothing is reported.
+/// For the GUI thread only.
 class VELLUM_EXPORT CusSvgImage : public QObject
 {
 public:

@@ -2,13 +2,242 @@
 
 #include "data/xmlscan.h"
 
-#include <QByteArray>
+#include <QBuffer>
+#include <QHash>
+#include <QImageReader>
+#include <QRegularExpression>
+#include <QSet>
+#include <QVector>
+#include <QXmlStreamReader>
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+namespace {
+
+constexpr int kOrdinarySize = 256 * 1024;
+constexpr int kOrdinaryTags = 256;
+constexpr int kMaxHeight = 512;
+constexpr qint64 kFreeWeight = 65536;
+constexpr qint64 kMaxWeightPerElement = 16;
+constexpr int kMaxStops = 512;
+constexpr int kMaxGradientLinks = 8192;
+constexpr qint64 kMaxRuleMatches = qint64(1) << 23;
+constexpr qint64 kMaxPictureArea = qint64(1) << 24;
+/// Bytes of the file per dash, the dash as a share of the image; at this value about a second.
+constexpr double kMaxDashCost = 1e7;
+
+bool isOrdinary(const QByteArray &svg)
+{
+    static const std::array<const char *, 6> words = {"<use",   ":use",      "<image",
+                                                      ":image", "dasharray", "<?xml-stylesheet"};
+    return svg.size() <= kOrdinarySize && svg.count('<') <= kOrdinaryTags
+        && std::none_of(words.begin(), words.end(),
+                        [&svg](const char *word) { return svg.contains(word); });
+}
+
+class SvgScan
+{
+public:
+    explicit SvgScan(const QByteArray &svg)
+        : m_svg(svg)
+        , m_reader(svg)
+    {
+    }
+
+    bool isRenderable();
+
+private:
+    /// What is drawn by an element that has an id: its elements without one, the parts that have
+    /// one of their own, and what its `use` elements name.
+    struct Group
+    {
+        int elements = 0;
+        QSet<int> parts;
+        QStringList uses;
+        qint64 weight = -1;
+        int height = 0;
+        bool open = false;
+    };
+
+    bool startElement();
+    bool gradient(const QString &name, const QString &link);
+    bool picture(const QString &link);
+    int groupOf(const QString &id);
+    bool weigh(int index, int depth);
+    bool dashesAreCoarse() const;
+
+    const QByteArray &m_svg;
+    QXmlStreamReader m_reader;
+    QVector<Group> m_groups = QVector<Group>(1);
+    QHash<QString, int> m_ids;
+    QVector<int> m_path = {0};
+    int m_elements = 0;
+    int m_stops = 0;
+    int m_gradientLinks = 0;
+    qint64 m_rules = 0;
+    qint64 m_pictureArea = 0;
+    bool m_inStyle = false;
+    double m_extent = 0.0;
+};
+
+bool SvgScan::isRenderable()
+{
+    // A malformed rest is nothing to judge: the renderer stops there as well.
+    while (!m_reader.atEnd()) {
+        const QXmlStreamReader::TokenType token = m_reader.readNext();
+        if (token == QXmlStreamReader::StartElement) {
+            if (!startElement())
+                return false;
+        } else if (token == QXmlStreamReader::EndElement) {
+            m_path.removeLast();
+            m_inStyle = false;
+        } else if (token == QXmlStreamReader::Characters && m_inStyle) {
+            m_rules +=
+                m_reader.text().count(QLatin1Char('{')) + m_reader.text().count(QLatin1Char(','));
+        } else if (token == QXmlStreamReader::ProcessingInstruction
+                   && m_reader.processingInstructionTarget() == QLatin1String("xml-stylesheet")) {
+            return false;
+        }
+    }
+    return m_rules * m_elements <= kMaxRuleMatches && weigh(0, 0)
+        && m_groups.at(0).weight <= kFreeWeight + kMaxWeightPerElement * m_elements
+        && dashesAreCoarse();
+}
+
+bool SvgScan::startElement()
+{
+    const QString name = m_reader.name().toString();
+    const QXmlStreamAttributes attributes = m_reader.attributes();
+    QString link = attributes.value(QLatin1String("xlink:href")).toString();
+    if (link.isEmpty())
+        link = attributes.value(QLatin1String("href")).toString();
+    const QString id = attributes.value(QLatin1String("id")).toString();
+
+    if (m_elements++ == 0) {
+        const QStringList box = attributes.value(QLatin1String("viewBox"))
+                                    .toString()
+                                    .replace(QLatin1Char(','), QLatin1Char(' '))
+                                    .split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        if (box.size() == 4)
+            m_extent = std::max(box.at(2).toDouble(), box.at(3).toDouble());
+    }
+    int group = m_path.last();
+    if (!id.isEmpty()) {
+        const int part = groupOf(id);
+        // An id that an ancestor has already is a slip, not a reference.
+        if (!m_path.contains(part))
+            m_groups[group].parts.insert(part);
+        group = part;
+    }
+    ++m_groups[group].elements;
+    m_path.append(group);
+    m_inStyle = name == QLatin1String("style");
+    if (name == QLatin1String("use"))
+        m_groups[group].uses.append(link.mid(1));
+    else if (name == QLatin1String("image"))
+        return picture(link);
+    return gradient(name, link);
+}
+
+bool SvgScan::gradient(const QString &name, const QString &link)
+{
+    if (name == QLatin1String("stop"))
+        return ++m_stops <= kMaxStops;
+    if (!name.endsWith(QLatin1String("Gradient")))
+        return true;
+    m_stops = 0;
+    return link.isEmpty() || ++m_gradientLinks <= kMaxGradientLinks;
+}
+
+/// Only PNG and JPEG inside the file are let through: a name may lead to a pipe or a device, and
+/// another SVG, even in a data link, would be rendered unseen.
+bool SvgScan::picture(const QString &link)
+{
+    if (link.isEmpty())
+        return true;
+    const int data = link.indexOf(QLatin1String("base64,"));
+    if (!link.startsWith(QLatin1String("data:image/")) || data < 0)
+        return false;
+    QByteArray bytes = QByteArray::fromBase64(link.mid(data + 7).toLatin1());
+    QBuffer buffer(&bytes);
+    QImageReader reader(&buffer);
+    const QByteArray format = reader.format();
+    const QSize size = reader.size();
+    m_pictureArea += qint64(size.width()) * size.height();
+    return (format == "png" || format == "jpeg") && m_pictureArea <= kMaxPictureArea;
+}
+
+/// Elements that share an id count as one that draws them all.
+int SvgScan::groupOf(const QString &id)
+{
+    const auto known = m_ids.constFind(id);
+    if (known != m_ids.cend())
+        return *known;
+    m_groups.append(Group());
+    m_ids.insert(id, m_groups.size() - 1);
+    return m_groups.size() - 1;
+}
+
+/// Fills in weight, the number of elements drawn, and height, the nesting while they are drawn.
+/// False for a cycle and for too much.
+bool SvgScan::weigh(int index, int depth)
+{
+    Group &group = m_groups[index];
+    if (group.open || depth > kMaxHeight)
+        return false;
+    if (group.weight >= 0)
+        return true;
+    group.open = true;
+    QVector<int> drawn = group.parts.values().toVector();
+    for (const QString &id : qAsConst(group.uses)) {
+        const auto target = m_ids.constFind(id);
+        if (target != m_ids.cend())
+            drawn.append(*target);
+    }
+    qint64 weight = group.elements;
+    for (int part : qAsConst(drawn)) {
+        if (!weigh(part, depth + 1))
+            return false;
+        weight += m_groups.at(part).weight;
+        group.height = std::max(group.height, m_groups.at(part).height + 1);
+        if (weight > kFreeWeight + kMaxWeightPerElement * m_elements || group.height > kMaxHeight)
+            return false;
+    }
+    group.weight = weight;
+    group.open = false;
+    return true;
+}
+
+bool SvgScan::dashesAreCoarse() const
+{
+    if (!m_svg.contains("dasharray"))
+        return true;
+    static const QRegularExpression pattern(
+        QStringLiteral("stroke-dasharray\\s*[:=]\\s*[\"']?\\s*([0-9.][0-9.eE,+\\s-]*)"));
+    static const QRegularExpression separator(QStringLiteral("[,\\s]+"));
+    double finest = std::numeric_limits<double>::max();
+    auto match = pattern.globalMatch(QString::fromUtf8(m_svg));
+    while (match.hasNext()) {
+        double sum = 0.0;
+        const QString lengths = match.next().captured(1);
+        for (const QString &length : lengths.split(separator, Qt::SkipEmptyParts))
+            sum += length.toDouble();
+        if (sum > 0.0)
+            finest = std::min(finest, sum);
+    }
+    const double extent = m_extent > 0.0 ? m_extent : 100.0;
+    return m_svg.size() * extent / finest <= kMaxDashCost;
+}
+
+} // namespace
 
 namespace vellum {
 
 bool isRenderableSvg(const QByteArray &svg)
 {
-    return hasAsciiEncoding(svg);
+    return hasAsciiEncoding(svg) && (isOrdinary(svg) || SvgScan(svg).isRenderable());
 }
 
 } // namespace vellum

@@ -11,7 +11,11 @@ namespace {
 constexpr int kMaxDepth = 256;
 constexpr int kMaxAttributes = 256;
 constexpr int kMaxElements = 1 << 20;
-constexpr int kMaxExpansion = 64 * 1024 * 1024;
+constexpr int kMaxExpansion = 16 * 1024 * 1024;
+constexpr int kMaxDoctype = 8 * 1024;
+constexpr int kMaxParentheses = 256;
+constexpr qint64 kFreeEscapeCost = qint64(1) << 28;
+constexpr qint64 kMaxEscapeCostPerByte = 4096;
 
 /// A cursor over the markup of a document. Every step() either moves it on or fails.
 class MarkupScan
@@ -24,11 +28,14 @@ public:
 
     bool isBounded()
     {
-        while ((m_pos = m_bytes.indexOf('<', m_pos)) >= 0) {
+        for (int tag = 0; (tag = m_bytes.indexOf('<', m_pos)) >= 0;) {
+            addRun(m_pos, tag);
+            m_pos = tag;
             if (!step())
                 return false;
         }
-        return !m_longestEntity || m_bytes.count('&') <= kMaxExpansion / m_longestEntity;
+        return m_escapeCost <= kFreeEscapeCost + kMaxEscapeCostPerByte * m_bytes.size()
+            && (!m_longestEntity || m_bytes.count('&') <= kMaxExpansion / m_longestEntity);
     }
 
 private:
@@ -43,6 +50,16 @@ private:
         const int found = m_bytes.indexOf(end, from);
         m_pos = found < 0 ? m_bytes.size() : found + int(qstrlen(end));
         return true;
+    }
+
+    /// Qt writes a text by inserting one escape after the other into it, which moves the rest of
+    /// the text each time.
+    void addRun(int begin, int end)
+    {
+        const auto *bytes = m_bytes.constData();
+        const auto escapes =
+            std::count_if(bytes + begin, bytes + end, [](char c) { return c == '&' || c == '"'; });
+        m_escapeCost += qint64(escapes) * (end - begin);
     }
 
     bool step()
@@ -84,6 +101,7 @@ private:
         if (end < 0)
             return false;
         m_quoted = end - m_pos - 1;
+        addRun(m_pos + 1, end);
         m_pos = end;
         return true;
     }
@@ -94,10 +112,15 @@ private:
     bool doctype()
     {
         bool inSubset = false;
-        for (m_pos += 2; m_pos < m_bytes.size(); ++m_pos) {
+        int parentheses = 0;
+        const int end = std::min(m_bytes.size(), m_pos + kMaxDoctype);
+        for (m_pos += 2; m_pos < end; ++m_pos) {
             const char c = m_bytes.at(m_pos);
             if (c == '[') {
                 inSubset = true;
+            } else if (c == '(') {
+                if (++parentheses > kMaxParentheses)
+                    return false;
             } else if (c == ']') {
                 inSubset = false;
             } else if (c == '%') {
@@ -117,13 +140,13 @@ private:
                 m_longestEntity = std::max(m_longestEntity, m_quoted);
             }
         }
-        return true;
+        return false;
     }
 
     bool isPlain(int begin) const
     {
         const char *first = m_bytes.constData() + begin;
-        const std::array<char, 3> special = {'<', '&', '%'};
+        const std::array<char, 5> special = {'<', '&', '%', '"', '\''};
         return std::find_first_of(first, first + m_quoted, special.begin(), special.end())
             == first + m_quoted;
     }
@@ -134,6 +157,7 @@ private:
     int m_elements = 0;
     int m_quoted = 0;
     int m_longestEntity = 0;
+    qint64 m_escapeCost = 0;
 };
 
 QByteArray declaredEncoding(const QByteArray &bytes)

@@ -1,0 +1,427 @@
+#include "support/guardedtest.h"
+#include "support/qobjectcounter.h"
+#include "support/render.h"
+
+#include <Vellum/CSSItem>
+#include <Vellum/CusSvgImage>
+#include <Vellum/SvgImageInfo>
+
+#include <QPainter>
+#include <QSvgRenderer>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <sys/stat.h>
+
+class TestCusSvgImage : public GuardedTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void tintGoesWhereTheFileKeepsItsColor_data();
+    void tintGoesWhereTheFileKeepsItsColor();
+    void opacityHasOneDecimalAndGoesAgain();
+    void tintsFollowEachOther();
+    void invalidColor();
+    void loadResetsEverything();
+    void paintsTheTintIntoTheWholeRectangle();
+    void renderersAreKept();
+    void pixmap_data();
+    void pixmap();
+    void infoNeedsASource_data();
+    void infoNeedsASource();
+    void infoKeepsItsRenderer();
+    void infoSharesTheDocumentOfItsOwnFile();
+    void refusedFilesPaintNothing_data();
+    void refusedFilesPaintNothing();
+    void unusualFilesArePainted_data();
+    void unusualFilesArePainted();
+
+private:
+    /// \a body inside an SVG element of 24 by 24 units.
+    QString svg(const QByteArray &body, const QByteArray &before = QByteArray())
+    {
+        return write(before
+                     + "<svg xmlns='http://www.w3.org/2000/svg' "
+                       "xmlns:xlink='http://www.w3.org/1999/xlink' viewBox='0 0 24 24'>"
+                     + body + "</svg>");
+    }
+    QString write(const QByteArray &bytes)
+    {
+        QFile file(m_dir.filePath(QStringLiteral("%1.svg").arg(++m_files)));
+        return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size()
+            ? file.fileName()
+            : QString();
+    }
+    static QImage painted(const CusSvgImage &image)
+    {
+        QImage canvas(24, 24, QImage::Format_ARGB32_Premultiplied);
+        canvas.fill(TestKit::unpainted);
+        QPainter painter(&canvas);
+        image.paintSvgImage(&painter, canvas.rect());
+        return canvas;
+    }
+
+    QTemporaryDir m_dir;
+    QString m_square;
+    int m_files = 0;
+};
+
+void TestCusSvgImage::initTestCase()
+{
+    m_square = svg("<rect width='24' height='24' fill='#00ff00'/>");
+}
+
+void TestCusSvgImage::tintGoesWhereTheFileKeepsItsColor_data()
+{
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<QStringList>("present");
+    QTest::addColumn<QStringList>("absent");
+    const auto row = [](const char *name, const char *body, const char *present,
+                        const char *absent = "") {
+        const auto list = [](const char *texts) {
+            return QString::fromLatin1(texts).split(QLatin1Char('|'), Qt::SkipEmptyParts);
+        };
+        QTest::newRow(name) << QByteArray(body) << list(present) << list(absent);
+    };
+    const char *red = "fill=\"#ff0000\"";
+    row("attributes", "<path fill='#123456'/><rect/><g fill='blue' stroke='lime'/>",
+        "<path fill=\"#ff0000\"/>|<rect fill=\"#ff0000\"/>|fill=\"blue\"|stroke=\"lime\"");
+    row("attribute none is overwritten", "<path fill='none'/>", red, "none");
+    row("no colour anywhere", "<circle/>", red);
+    row("inline style stays", "<path style='fill:blue' stroke='blue'/>",
+        "style=\"fill:blue\"|stroke=\"blue\"|fill=\"#ff0000\"");
+    row("other elements stay", "<text fill='blue'/><use fill='blue'/><path/>",
+        "<text fill=\"blue\"/>|<use fill=\"blue\"/>|<path fill=\"#ff0000\"/>");
+    row("style block alone: both", "<style>.a{fill:#fff;}</style><path class='a'/>",
+        "..a{fill:#ff0000;}|fill=\"#ff0000\"");
+    row("style block and attributes: block only",
+        "<style>.a{fill:#fff;}</style><path fill='#fff'/>", "..a{fill:#ff0000;}|fill=\"#fff\"",
+        red);
+    row("block with fill and opacity stays",
+        "<style>.a{fill:#fff;}.b{opacity:.5;}</style><path fill='#fff'/>",
+        ".a{fill:#fff;}.b{opacity:.5;}|fill=\"#ff0000\"");
+    row("block none is kept", "<style>.a{fill:none;} b { stroke : url(x:y) ; }</style><path/>",
+        "..a{fill:none;}.b{fill:#ff0000;stroke:url(xy);}|fill=\"#ff0000\"");
+    row("declaration without semicolon is lost", "<style>.a{fill:blue}</style><path/>",
+        "..a{fill:#ff0000;}", "blue");
+    row("later equal property wins", "<style>.a{x:1;x:2;:3;y:;}</style><path/>",
+        "..a{fill:#ff0000;x:2;}");
+    row("every style element is replaced",
+        "<style>.a{fill:blue;}</style><style>.b{fill:blue;}</style>", "..a{fill:#ff0000;}",
+        "blue|.b");
+    row("unbalanced block stays", "<style>.a{fill:blue;</style><path/>",
+        ".a{fill:blue;|fill=\"#ff0000\"", "..a");
+    row("line feed behind the last rule: block stays", "<style>.a{fill:blue;}\n</style><path/>",
+        ".a{fill:blue;}|fill=\"#ff0000\"", "..a");
+    row("rule without a name: block stays", "<style> {fill:blue;}</style><path/>",
+        " {fill:blue;}|fill=\"#ff0000\"");
+}
+
+void TestCusSvgImage::tintGoesWhereTheFileKeepsItsColor()
+{
+    QFETCH(QByteArray, body);
+    QFETCH(QStringList, present);
+    QFETCH(QStringList, absent);
+    const CusSvgImage image(svg(body));
+    const QString text = QString::fromUtf8(image.getFillColorByteArray(Qt::red));
+    for (const QString &part : qAsConst(present))
+        QVERIFY2(text.contains(part), qPrintable(part + QStringLiteral(" not in ") + text));
+    for (const QString &part : qAsConst(absent))
+        QVERIFY2(!text.contains(part), qPrintable(part + QStringLiteral(" in ") + text));
+}
+
+void TestCusSvgImage::opacityHasOneDecimalAndGoesAgain()
+{
+    const CusSvgImage image(svg("<style>.a{x:1;}.b{opacity:none;}</style><path/>"));
+    const CusSvgImage huge(svg("<style>.a{opacity:-nan;}</style><path opacity='1e30'/>"));
+    QVERIFY(huge.getFillColorByteArray(Qt::red).contains("..a{fill:#ff0000;}"));
+    const QMap<int, QByteArray> opacities = {{128, "0.5"}, {254, "1.0"}, {0, "0.0"}};
+    for (auto it = opacities.cbegin(); it != opacities.cend(); ++it) {
+        const QByteArray text = image.getFillColorByteArray(QColor(1, 2, 3, it.key()));
+        QVERIFY(text.contains("<path fill=\"#010203\" opacity=\"" + it.value() + '"')
+                || text.contains("opacity=\"" + it.value() + "\" fill=\"#010203\""));
+        QVERIFY(text.contains("..b{fill:#010203;opacity:none;}"));
+    }
+    const CusSvgImage shapes(svg("<path opacity='0.3'/><rect fill='red'/>"));
+    QCOMPARE(shapes.getFillColorByteArray(QColor(0, 0, 255, 128)).count("opacity=\"0.5\""), 2);
+    QVERIFY(!shapes.getFillColorByteArray(Qt::blue).contains("opacity"));
+}
+
+void TestCusSvgImage::tintsFollowEachOther()
+{
+    const CusSvgImage image(svg("<style>.a{fill:white;}.b{fill:none;}</style><path/>"));
+    image.getFillColorByteArray(QColor(255, 0, 0, 51));
+    const QByteArray text = image.getFillColorByteArray(Qt::blue);
+    // The dot is written anew each time, not piled up.
+    QVERIFY(text.contains("<style>..a{fill:#0000ff;}..b{fill:none;}</style>"));
+    QVERIFY(!text.contains("opacity"));
+    QCOMPARE(image.getFillColorByteArray(Qt::blue), text);
+}
+
+void TestCusSvgImage::invalidColor()
+{
+    const CusSvgImage image(svg("<path fill='white'/>"));
+    QVERIFY(image.getFillColorByteArray(QColor()).contains("fill=\"white\""));
+    image.getFillColorByteArray(Qt::red);
+    QVERIFY(image.getFillColorByteArray(QColor()).contains("fill=\"#000000\""));
+}
+
+void TestCusSvgImage::loadResetsEverything()
+{
+    QObject owner;
+    CusSvgImage image(m_square, &owner);
+    QVERIFY(!image.parent());
+    image.setFillColor(Qt::red);
+    QVERIFY(image.load(m_square));
+    QVERIFY(image.getFillColorByteArray(QColor()).contains("#00ff00"));
+    QVERIFY(image.load(QStringLiteral("absent.svg")));
+    QCOMPARE(image.svgFile(), QStringLiteral("absent.svg"));
+    QCOMPARE(image.getFillColorByteArray(Qt::red), QByteArray());
+    QVERIFY(image.load(QString()));
+    QVERIFY(image.svgFile().isEmpty());
+    QVERIFY(TestKit::inkExtent(painted(image)).isNull());
+}
+
+void TestCusSvgImage::paintsTheTintIntoTheWholeRectangle()
+{
+    CusSvgImage image(m_square);
+    // What was read once is enough.
+    QVERIFY(QFile::remove(m_square));
+    QImage canvas(40, 10, QImage::Format_ARGB32_Premultiplied);
+    canvas.fill(TestKit::unpainted);
+    QPainter painter(&canvas);
+    image.setFillColor(Qt::red);
+    image.paintSvgImage(&painter, QRect(5, 0, 30, 10));
+    QCOMPARE(TestKit::extentOf(canvas, Qt::red), QRect(5, 0, 30, 10));
+    for (const QRect &rect : {QRect(), QRect(5, 5, -3, -3)})
+        image.paintSvgImage(&painter, rect);
+    painter.end();
+    image.paintSvgImage(nullptr, canvas.rect());
+    image.paintSvgImage(&painter, canvas.rect());
+    initTestCase();
+}
+
+void TestCusSvgImage::renderersAreKept()
+{
+    CusSvgImage image(m_square);
+    const QObjectCounter renderers(QSvgRenderer::staticMetaObject);
+    painted(image);
+    const int made = renderers.constructedOfAnyClass();
+    for (int i = 0; i < 3; ++i)
+        QCOMPARE(TestKit::countOf(painted(image), Qt::green), 24 * 24);
+    QCOMPARE(renderers.constructedOfAnyClass(), made);
+    // The document is tinted for someone else; this picture stays until its own tint changes.
+    image.getFillColorByteArray(Qt::red);
+    image.setFillColor(Qt::red);
+    QCOMPARE(TestKit::countOf(painted(image), Qt::green), 24 * 24);
+    image.setFillColor(Qt::blue);
+    QCOMPARE(TestKit::countOf(painted(image), Qt::blue), 24 * 24);
+    QCOMPARE(renderers.alive(), 1);
+}
+
+void TestCusSvgImage::pixmap_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<bool>("null");
+    QTest::newRow("usual") << QSize(20, 10) << false;
+    QTest::newRow("one pixel") << QSize(1, 1) << false;
+    QTest::newRow("null") << QSize(0, 0) << true;
+    QTest::newRow("half null") << QSize(0, 5) << true;
+    QTest::newRow("invalid") << QSize() << true;
+    QTest::newRow("negative") << QSize(-5, -5) << true;
+    QTest::newRow("very wide") << QSize(40000, 1) << true;
+    QTest::newRow("huge") << QSize(INT_MAX, INT_MAX) << true;
+}
+
+void TestCusSvgImage::pixmap()
+{
+    QFETCH(QSize, size);
+    QFETCH(bool, null);
+    const QString bad = write("no SVG");
+    const QImage authored = CusSvgImage::svgToPixmap(m_square, size, QColor()).toImage();
+    const QImage tinted = CusSvgImage::svgToPixmap(m_square, size, Qt::red).toImage();
+    const QImage empty = CusSvgImage::svgToPixmap(bad, size, Qt::red).toImage();
+    QCOMPARE(empty.isNull(), null);
+    if (null) {
+        QVERIFY(authored.isNull() && tinted.isNull());
+    } else {
+        QCOMPARE(TestKit::extentOf(authored, Qt::green), QRect(QPoint(), size));
+        QCOMPARE(TestKit::extentOf(tinted, Qt::red), QRect(QPoint(), size));
+        QCOMPARE(TestKit::inkExtent(empty, Qt::transparent), QRect());
+        QCOMPARE(empty.pixelColor(0, 0).alpha(), 0);
+    }
+    QVERIFY(CusSvgImage::svgToPixmap(QStringLiteral("absent"), size, Qt::red).isNull());
+}
+
+void TestCusSvgImage::infoNeedsASource_data()
+{
+    QTest::addColumn<bool>("ownImage");
+    QTest::addColumn<bool>("color");
+    QTest::addColumn<bool>("shared");
+    QTest::addColumn<QColor>("painted");
+    QTest::newRow("nothing") << false << false << true << QColor();
+    QTest::newRow("color without a source") << false << true << false << QColor();
+    QTest::newRow("color and shared document") << false << true << true << QColor(Qt::red);
+    QTest::newRow("own file") << true << false << false << QColor(Qt::green);
+    QTest::newRow("own file and color") << true << true << true << QColor(Qt::red);
+}
+
+void TestCusSvgImage::infoNeedsASource()
+{
+    QFETCH(bool, ownImage);
+    QFETCH(bool, color);
+    QFETCH(bool, shared);
+    QFETCH(QColor, painted);
+    CusSvgImage other(svg("<circle cx='12' cy='12' r='40' fill='#00ffff'/>"));
+    CusSvgImage none;
+    SvgImageInfo info;
+    if (ownImage)
+        info.setSvgImage(m_square);
+    if (color)
+        info.setSvgColor(Qt::red);
+    info.init(shared ? &other : nullptr);
+    if (!shared)
+        info.init(&none);
+    QCOMPARE(info.render() != nullptr, painted.isValid());
+    if (!info.render())
+        return;
+    QImage canvas(8, 8, QImage::Format_ARGB32_Premultiplied);
+    canvas.fill(TestKit::unpainted);
+    QPainter painter(&canvas);
+    info.render()->render(&painter);
+    QCOMPARE(canvas.pixelColor(4, 4), painted);
+}
+
+void TestCusSvgImage::infoKeepsItsRenderer()
+{
+    SvgImageInfo info;
+    info.setSvgImage(QStringLiteral("absent.svg"));
+    info.init(nullptr);
+    QVERIFY(info.render() && !info.render()->isValid());
+
+    info.setSvgImage(m_square);
+    QVERIFY(!info.render());
+    info.init(nullptr);
+    const QPointer<QSvgRenderer> first = info.render();
+    QVERIFY(first->isValid());
+    info.setSvgImage(m_square);
+    info.setSvgColor(QColor());
+    info.init(nullptr);
+    const SvgImageInfo copy = info;
+    QCOMPARE(info.render(), first.data());
+    info.setSvgColor(Qt::red);
+    QVERIFY(!first && !info.render() && !copy.render());
+    info.init(nullptr);
+    info.clean();
+    QVERIFY(!info.render());
+    QCOMPARE(info.svgColor(), QColor(Qt::red));
+    QCOMPARE(info.svgImage(), m_square);
+}
+
+void TestCusSvgImage::infoSharesTheDocumentOfItsOwnFile()
+{
+    CusSvgImage image(m_square);
+    SvgImageInfo info;
+    info.setSvgImage(m_square);
+    info.setSvgColor(Qt::red);
+    info.init(&image);
+    QCOMPARE(TestKit::countOf(painted(image), Qt::red), 24 * 24);
+}
+
+void TestCusSvgImage::refusedFilesPaintNothing_data()
+{
+    QTest::addColumn<QString>("file");
+    const QByteArray rect = "<rect width='24' height='24'/>";
+    QByteArray laughs = "<rect id='u0' width='24' height='24'/>";
+    QByteArray chain = laughs;
+    for (int i = 1; i < 2000; ++i) {
+        const QByteArray id = QByteArray::number(i);
+        const QByteArray use = "<use xlink:href='#u" + QByteArray::number(i - 1) + "'/>";
+        chain += "<g id='u" + id + "'>" + use + "</g>";
+        if (i < 20)
+            laughs += "<g id='u" + id + "'>" + use.repeated(10) + "</g>";
+    }
+    const QString pipe = m_dir.filePath(QStringLiteral("pipe"));
+    QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    const QByteArray pipeName = QFile::encodeName(pipe);
+    const QByteArray nested = "<svg xmlns='http://www.w3.org/2000/svg' width='30000' "
+                              "height='30000'/>";
+
+    QTest::newRow("empty") << write(QByteArray());
+    QTest::newRow("no SVG") << write("<a><b/></a>");
+    QTest::newRow("cut off") << write("<svg xmlns='http://www.w3.org/2000/svg'>" + rect);
+    QTest::newRow("pipe") << pipe;
+    QTest::newRow("use of itself") << svg(rect + "<use id='a' xlink:href='#a'/>");
+    QTest::newRow("use of an ancestor") << svg("<g id='a'>" + rect + "<use xlink:href='#a'/></g>");
+    QTest::newRow("use of each other") << svg(rect
+                                              + "<g id='a'><use xlink:href='#b'/></g>"
+                                                "<g id='b'><use xlink:href='#a'/></g>");
+    QTest::newRow("uses that multiply") << svg(laughs);
+    QTest::newRow("chain of uses") << svg(chain);
+    QTest::newRow("many uses of much")
+        << svg("<g id='a'>" + rect.repeated(3000) + "</g>"
+               + QByteArray("<use xlink:href='#a'/>").repeated(3000));
+    QTest::newRow("picture in a pipe") << svg("<image xlink:href='" + pipeName + "'/>" + rect);
+    QTest::newRow("huge picture inside")
+        << svg("<image width='9' height='9' xlink:href='data:image/svg+xml;base64,"
+               + nested.toBase64() + "'/>" + rect);
+    QTest::newRow("style sheet in a pipe")
+        << svg(rect, "<?xml-stylesheet type=\"text/css\" href=\"" + pipeName + "\"?>");
+    QTest::newRow("gradient stops")
+        << svg("<linearGradient id='g'>" + QByteArray("<stop offset='0'/>").repeated(100000)
+               + "</linearGradient>" + rect);
+    QTest::newRow("rules times elements")
+        << svg("<style>" + QByteArray(".a{fill:red;}").repeated(20000) + "</style>"
+               + rect.repeated(20000));
+    QTest::newRow("fine dashes") << svg("<path stroke='red' stroke-dasharray='0.01' d='M0 0"
+                                        + QByteArray("l20 1l-20 -1").repeated(20000) + "'/>"
+                                        + rect);
+    QTest::newRow("UTF-7 declared") << svg(rect, "<?xml version='1.0' encoding='UTF-7'?>");
+}
+
+void TestCusSvgImage::refusedFilesPaintNothing()
+{
+    QFETCH(QString, file);
+    CusSvgImage image(file);
+    if (QFile(file).fileName().endsWith(QLatin1String("pipe")))
+        QCOMPARE(image.getFillColorByteArray(QColor()), QByteArray());
+    QVERIFY(TestKit::inkExtent(painted(image)).isNull());
+    image.setFillColor(Qt::red);
+    QVERIFY(TestKit::inkExtent(painted(image)).isNull());
+}
+
+void TestCusSvgImage::unusualFilesArePainted_data()
+{
+    QTest::addColumn<QString>("file");
+    const QByteArray rect = "<rect width='24' height='24'/>";
+    QByteArray png;
+    QBuffer buffer(&png);
+    QImage picture(4, 4, QImage::Format_ARGB32);
+    picture.fill(Qt::red);
+    picture.save(&buffer, "PNG");
+    QTest::newRow("use") << svg("<defs><rect id='a' width='24' height='24'/></defs>"
+                                "<use xlink:href='#a'/>");
+    QTest::newRow("equal ids") << svg(rect.repeated(300).replace("<rect", "<rect id='a'")
+                                      + "<g id='a'><g id='a'/></g>");
+    QTest::newRow("picture inside")
+        << svg("<image width='24' height='24' xlink:href='data:image/png;base64," + png.toBase64()
+               + "'/>");
+    QTest::newRow("dashes") << svg(rect
+                                   + "<path d='M0 0L9 9' style='stroke:red;stroke-dasharray:2,1'/>"
+                                     "<path stroke-dasharray='none'/>");
+    QTest::newRow("nested groups")
+        << svg(QByteArray("<g>").repeated(250) + rect + QByteArray("</g>").repeated(250));
+}
+
+void TestCusSvgImage::unusualFilesArePainted()
+{
+    QFETCH(QString, file);
+    CusSvgImage image(file);
+    image.setFillColor(Qt::red);
+    QCOMPARE(painted(image).pixelColor(20, 4), QColor(Qt::red));
+}
+
+QTEST_MAIN(TestCusSvgImage)
+#include "tst_cussvgimage.moc"

@@ -1,0 +1,198 @@
+#include "support/guardedtest.h"
+
+#include <Vellum/XmlFile>
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <sys/stat.h>
+
+class TestXmlFile : public GuardedTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void withoutADocumentNothingHappens();
+    void unreadableFileKeepsThePreviousDocument();
+    void elementValues_data();
+    void elementValues();
+    void attributeValues();
+    void changesReachEveryMatch();
+    void copiesShareTheDocument();
+    void refusesWhatWouldExhaustAReader_data();
+    void refusesWhatWouldExhaustAReader();
+    void readsWhatIsOnlyUnusual_data();
+    void readsWhatIsOnlyUnusual();
+
+private:
+    QString write(const QByteArray &bytes)
+    {
+        QFile file(m_dir.filePath(QStringLiteral("file.xml")));
+        return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size()
+            ? file.fileName()
+            : QString();
+    }
+
+    QTemporaryDir m_dir;
+};
+
+namespace {
+
+QString str(const char *text)
+{
+    return QString::fromLatin1(text);
+}
+
+} // namespace
+
+void TestXmlFile::withoutADocumentNothingHappens()
+{
+    for (XmlFile file : {XmlFile(), XmlFile(m_dir.filePath(str("absent"))), XmlFile(m_dir.path()),
+                         XmlFile(QString())}) {
+        file.setElementValue(str("a"), str("b"));
+        file.setEleAttributeValue(str("a"), str("b"), str("c"));
+        file.removeAttributeValue({str("a")}, {str("b")});
+        QVERIFY(file.getElementValue(str("a")).isNull());
+        QVERIFY(file.getEleAttributeValue(str("a"), str("b")).isNull());
+        QVERIFY(file.getEleAttributeValue({str("a")}, QStringList{str("b")}).isEmpty());
+        QCOMPARE(file.toByteArray(), QByteArray());
+    }
+}
+
+void TestXmlFile::unreadableFileKeepsThePreviousDocument()
+{
+    XmlFile file(write("<a>text</a>"));
+    const QString pipe = m_dir.filePath(str("pipe"));
+    QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    for (const QString &name :
+         {m_dir.filePath(str("absent")), m_dir.path(), pipe, str("/dev/zero")}) {
+        file.readFile(name);
+        QCOMPARE(file.getElementValue(str("a")), str("text"));
+    }
+    // One that can be read replaces it, also by nothing.
+    file.readFile(write("<a>new</a><a>second root</a>"));
+    QVERIFY(file.getElementValue(str("a")).isEmpty());
+    QCOMPARE(file.toByteArray(), QByteArray());
+}
+
+void TestXmlFile::elementValues_data()
+{
+    QTest::addColumn<QByteArray>("xml");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QByteArray>("changed");
+    QTest::newRow("two") << QByteArray("<r><s>1</s><b><s>2</s></b></r>") << str("1")
+                         << QByteArray("<r>\n <s>new</s>\n <b>\n  <s>new</s>\n </b>\n</r>\n");
+    QTest::newRow("CDATA") << QByteArray("<s><![CDATA[<1>]]></s>") << str("<1>")
+                           << QByteArray("<s><![CDATA[new]]></s>\n");
+    QTest::newRow("no child") << QByteArray("<s/>") << QString() << QByteArray("<s/>\n");
+    QTest::newRow("other case") << QByteArray("<S>1</S>") << QString() << QByteArray("<S>1</S>\n");
+    QTest::newRow("first empty") << QByteArray("<r><s/><s>2</s></r>") << str("2")
+                                 << QByteArray("<r>\n <s/>\n <s>new</s>\n</r>\n");
+    QTest::newRow("branch ends at a match")
+        << QByteArray("<r><s><b/><s>inner</s></s><s>2</s></r>") << str("2") << QByteArray();
+}
+
+void TestXmlFile::elementValues()
+{
+    QFETCH(QByteArray, xml);
+    QFETCH(QByteArray, changed);
+    XmlFile file(write(xml));
+    QTEST(file.getElementValue(str("s")), "value");
+    file.setElementValue(str("s"), str("new"));
+    if (!changed.isEmpty())
+        QCOMPARE(file.toByteArray(), changed);
+}
+
+void TestXmlFile::attributeValues()
+{
+    XmlFile file(write("<r><a x=''><a x='inside'/></a><b/><b y='1'/><a x='2' y='3'/></r>"));
+    QCOMPARE(file.getEleAttributeValue(str("a"), str("x")), str("2"));
+    QVERIFY(file.getEleAttributeValue(str("b"), str("x")).isEmpty());
+    const QSet<QString> tags = {str("a"), str("b")};
+    QCOMPARE(file.getEleAttributeValue(tags, {str("z"), str("y")}), (QStringList{{}, str("1")}));
+    QCOMPARE(file.getEleAttributeValue(tags, {str("x"), str("y")}), (QStringList{{}, {}}));
+    QVERIFY(file.getEleAttributeValue(tags, QStringList()).isEmpty());
+}
+
+void TestXmlFile::changesReachEveryMatch()
+{
+    XmlFile file(write("<a x='1'><b x='1'><a y='1'/></b><c x='1'/></a>"));
+    file.setEleAttributeValue(str("a"), str("x"), str("2"));
+    QCOMPARE(file.toByteArray().count("x=\"2\""), 2);
+    file.setEleAttributeValue({str("a"), str("b")}, str("x"), str("3"));
+    QCOMPARE(file.toByteArray().count("x=\"3\""), 3);
+    file.removeAttributeValue({str("a"), str("b")}, {str("x"), str("y"), str("absent")});
+    QCOMPARE(file.toByteArray(), QByteArray("<a>\n <b>\n  <a/>\n </b>\n <c x=\"1\"/>\n</a>\n"));
+}
+
+void TestXmlFile::copiesShareTheDocument()
+{
+    XmlFile file(write("<a>1</a>"));
+    XmlFile copy;
+    copy = file;
+    copy.setElementValue(str("a"), str("2"));
+    QCOMPARE(file.getElementValue(str("a")), str("2"));
+}
+
+void TestXmlFile::refusesWhatWouldExhaustAReader_data()
+{
+    QTest::addColumn<QByteArray>("xml");
+    const QByteArray hundred = QByteArray("<g>").repeated(100);
+    QTest::newRow("depth 300") << QByteArray("<a>") + QByteArray("<g>").repeated(299)
+            + QByteArray("</g>").repeated(299) + "</a>";
+    QTest::newRow("depth 1,000,000, open") << QByteArray("<g a='/>'>").repeated(1000000);
+    QTest::newRow("depth behind a comment")
+        << "<a><!-- <b> ' --><?p '?>" + QByteArray("<g>").repeated(100000);
+    QTest::newRow("depth in UTF-16")
+        << QByteArray("\xff\xfe", 2) + QByteArray("<\0g\0>\0", 6).repeated(100000);
+    QTest::newRow("depth in UTF-7")
+        << "<?xml version='1.0' encoding='UTF-7'?>" + QByteArray("+ADw-g+AD4-").repeated(100000);
+    QTest::newRow("depth in an entity") << "<!DOCTYPE a [<!ENTITY x '" + hundred + "'>]><a>&x;</a>";
+    QTest::newRow("entities of entities")
+        << QByteArray("<!DOCTYPE a [<!ENTITY x 'hahaha'><!ENTITY y '&x;&x;'>]><a>&y;</a>");
+    QTest::newRow("one entity too often") << "<!DOCTYPE a [<!ENTITY x '" + QByteArray(4000, 'x')
+            + "'>]><a>" + QByteArray("&x;").repeated(50000) + "</a>";
+    QTest::newRow("huge document type")
+        << "<!DOCTYPE a [" + QByteArray("<!ENTITY x 'y'>").repeated(100000) + "]><a/>";
+    QTest::newRow("deep content model")
+        << "<!DOCTYPE a [<!ELEMENT a " + QByteArray(7000, '(') + ">]><a/>";
+    QTest::newRow("attributes") << "<a " + QByteArray("b='' ").repeated(100000) + "/>";
+    QTest::newRow("references in one text")
+        << "<a>" + QByteArray("&amp;").repeated(1000000) + "</a>";
+    QTest::newRow("more than 64 MiB") << "<a>" + QByteArray(64 * 1024 * 1024, ' ') + "</a>";
+    QTest::newRow("zero bytes") << QByteArray("<a>\0</a>", 8);
+}
+
+void TestXmlFile::refusesWhatWouldExhaustAReader()
+{
+    QFETCH(QByteArray, xml);
+    const XmlFile file(write(xml));
+    QCOMPARE(file.toByteArray(), QByteArray());
+}
+
+void TestXmlFile::readsWhatIsOnlyUnusual_data()
+{
+    QTest::addColumn<QByteArray>("xml");
+    const QByteArray wide = QByteArray("<g a=\"/>\">x</g>").repeated(20000);
+    QTest::newRow("depth 256") << QByteArray("<a>").repeated(255) + "<s>text</s>"
+            + QByteArray("</a>").repeated(255);
+    QTest::newRow("many siblings") << "<a>" + wide + "<s>text</s></a>";
+    QTest::newRow("markup in comments and CDATA") << "<a><!--" + QByteArray("<g>").repeated(1000)
+            + "--><![CDATA[" + QByteArray("<g>").repeated(1000) + "]]><s>text</s></a>";
+    QTest::newRow("entity for a name space")
+        << QByteArray("<!DOCTYPE a PUBLIC '-//X//Y' 'http://x/y.dtd' [<!-- don't --><!ENTITY ns "
+                      "\"http://x/\">]><a xmlns='&ns;'><s>text</s></a>");
+    QTest::newRow("UTF-16") << QByteArray("\xfe\xff\0<\0s\0>\0t\0e\0x\0t\0<\0/\0s\0>", 24);
+    QTest::newRow("Latin-1") << QByteArray(
+        "<?xml version='1.0' encoding='ISO-8859-1'?><a b='\xe4'><s>text</s></a>");
+}
+
+void TestXmlFile::readsWhatIsOnlyUnusual()
+{
+    QFETCH(QByteArray, xml);
+    XmlFile file(write(xml));
+    QCOMPARE(file.getElementValue(str("s")), str("text"));
+}
+
+QTEST_GUILESS_MAIN(TestXmlFile)
+#include "tst_xmlfile.moc"
