@@ -125,8 +125,7 @@ VELLUM_EXPORT void realCheckInvalid(QComboBox *comboBox);
 VELLUM_EXPORT void realCheckInvalid(QLineEdit *lineEdit);
 VELLUM_EXPORT void realCheckInvalid(QTextEdit *textEdit);
 
-/// As realCheckInvalid(), and calls \a callback after that. The callback may delete the widget; an
-/// empty one is left out.
+/// As realCheckInvalid(), and calls \a callback after that; an empty one is left out.
 VELLUM_EXPORT void realCheckInvalidWithCall(QComboBox *comboBox,
                                             const std::function<void()> &callback);
 VELLUM_EXPORT void realCheckInvalidWithCall(QLineEdit *lineEdit,

@@ -10,17 +10,19 @@
 namespace {
 
 constexpr int kBorderModules = 1;
+/// Qt's SVG reader cuts a path off behind 32,767 elements; a row has at most 89 runs of five.
+constexpr int kRowsOfPath = 64;
 constexpr qint64 kMaxPixels = 64 * 1024 * 1024;
 /// Digits, the densest text, at medium level in the largest symbol.
 constexpr int kMaxCharacters = 5596;
 
-/// One path for all dark modules, a run of them in a row at a time: neighbours drawn one by one
-/// would show seams where a module is no whole number of pixels.
-QByteArray darkModulesPath(const qrcodegen::QrCode &code)
+/// One path for the dark modules of some rows, a run of them in a row at a time: neighbours drawn
+/// one by one would show seams where a module is no whole number of pixels.
+QByteArray darkModulesPath(const qrcodegen::QrCode &code, int firstRow, int endRow)
 {
     QByteArray path;
     const int size = code.getSize();
-    for (int y = 0; y < size; ++y) {
+    for (int y = firstRow; y < endRow; ++y) {
         int x = 0;
         while (x < size) {
             const int start = x;
@@ -34,16 +36,21 @@ QByteArray darkModulesPath(const qrcodegen::QrCode &code)
                 ++x;
         }
     }
-    return path;
+    return R"(<path d=")" + path + R"(" fill="#000000"/>)";
 }
 
 QByteArray toSvg(const qrcodegen::QrCode &code)
 {
-    const QByteArray edge = QByteArray::number(code.getSize() + 2 * kBorderModules);
-    return R"(<?xml version="1.0" encoding="UTF-8"?><svg xmlns="http://www.w3.org/2000/svg" )"
-           R"(version="1.1" viewBox="0 0 )"
+    const int size = code.getSize();
+    const QByteArray edge = QByteArray::number(size + 2 * kBorderModules);
+    QByteArray svg = R"(<?xml version="1.0" encoding="UTF-8"?>)"
+                     R"(<svg xmlns="http://www.w3.org/2000/svg" version="1.1" viewBox="0 0 )"
         + edge + ' ' + edge + R"(" stroke="none"><rect width=")" + edge + R"(" height=")" + edge
-        + R"(" fill="#FFFFFF"/><path d=")" + darkModulesPath(code) + R"(" fill="#000000"/></svg>)";
+        + R"(" fill="#FFFFFF"/>)";
+    // Each path takes the row above once more, which hides the seam between them.
+    for (int row = 0; row < size; row += kRowsOfPath)
+        svg += darkModulesPath(code, qMax(0, row - 1), qMin(size, row + kRowsOfPath));
+    return svg + "</svg>";
 }
 
 } // namespace

@@ -77,27 +77,22 @@ private:
     /// The stretch of a line in which a search is possible, with the expected width of each prefix.
     struct Stretch
     {
-        int end;       ///< behind the last character
-        int strong;    ///< the first character that isn't common to all scripts, or end
-        int estimated; ///< where the line is expected to end
+        int end;    ///< behind the last character
+        int strong; ///< the first character that isn't common to all scripts, or end
     };
 
-    bool fits(int end) const { return advance(end) <= m_width; }
-    int advance(int end) const
-    {
-        return m_metrics.horizontalAdvance(
-            QString::fromRawData(m_text.constData() + m_line, end - m_line));
-    }
+    bool fits(int end) { return advance(end) <= m_width; }
+    int advance(int end);
     bool isSteady(QChar c);
     qreal expectedAdvance(QChar c);
     void take(int end, QString *result);
     int firstMisfit(int from);
-    int firstMisfitPlainly(int from, int end) const;
-    int firstMisfitBySearch(int from, const Stretch &stretch) const;
-    int boundary(int low, int high, int guess) const;
-    int withoutEarlierMisfit(int from, int found) const;
+    int firstMisfitPlainly(int from, int end);
+    int firstMisfitBySearch(int from, const Stretch &stretch);
+    int boundary(int low, int high, int guess);
+    int withoutEarlierMisfit(int from, int found);
     Stretch steadyStretch();
-    bool isAsExpected(int end) const;
+    bool isAsExpected(int end);
 
     const QFontMetrics &m_metrics;
     const QFontMetricsF m_fineMetrics;
@@ -107,7 +102,11 @@ private:
     int m_line = 0;
     int m_word = 0;
     int m_lineCount = 0;
-    QVector<qreal> m_expected; ///< expected width of the line's prefixes of 1, 2, 3... characters
+    /// Of the line's prefixes of 1, 2, 3... characters: the sum of the characters' own widths.
+    QVector<qreal> m_expected;
+    /// Of the same prefixes: the width, or -1 while it isn't known.
+    QVector<int> m_measured;
+    qreal m_ratio = 1; ///< of the measured width to the expected one, in the line before
     std::array<Steadiness, 256> m_steadyLatin;
     std::array<qreal, 256> m_latinAdvances{};
     QHash<ushort, qreal> m_advances;
@@ -142,7 +141,7 @@ bool Wrapper::isSteady(QChar c)
 Wrapper::Stretch Wrapper::steadyStretch()
 {
     const qreal enough = qMax(0, m_width) * 1.25 + 2 * m_slack;
-    Stretch stretch{m_line, -1, -1};
+    Stretch stretch{m_line, -1};
     m_expected.clear();
     qreal sum = 0;
     for (; stretch.end < m_text.size() && sum <= enough; ++stretch.end) {
@@ -154,27 +153,41 @@ Wrapper::Stretch Wrapper::steadyStretch()
         m_expected.append(sum);
         if (stretch.strong < 0 && c.script() > QChar::Script_Common)
             stretch.strong = stretch.end;
-        if (stretch.estimated < 0 && sum > m_width)
-            stretch.estimated = stretch.end;
     }
     if (stretch.strong < 0)
         stretch.strong = stretch.end;
-    if (stretch.estimated < 0)
-        stretch.estimated = stretch.end;
+    m_measured.fill(-1, m_expected.size());
     return stretch;
+}
+
+int Wrapper::advance(int end)
+{
+    const int length = end - m_line;
+    int *known = length <= m_measured.size() ? &m_measured[length - 1] : nullptr;
+    if (known && *known >= 0)
+        return *known;
+    const int width =
+        m_metrics.horizontalAdvance(QString::fromRawData(m_text.constData() + m_line, length));
+    if (known)
+        *known = width;
+    return width;
 }
 
 /// Whether the prefix up to \a end is about as wide as its characters. Where it isn't, the font
 /// makes something else of whole words, and nothing is known of the widths in between.
-bool Wrapper::isAsExpected(int end) const
+bool Wrapper::isAsExpected(int end)
 {
     if (end == m_line)
         return true;
     const qreal expected = m_expected.at(end - m_line - 1);
-    return std::abs(advance(end) - expected) <= expected / 5 + m_slack;
+    const int width = advance(end);
+    if (std::abs(width - expected) > expected / 5 + m_slack)
+        return false;
+    m_ratio = qBound(0.8, width / expected, 1.25);
+    return true;
 }
 
-int Wrapper::firstMisfitPlainly(int from, int end) const
+int Wrapper::firstMisfitPlainly(int from, int end)
 {
     int i = from;
     while (i < end && fits(i + 1))
@@ -183,30 +196,29 @@ int Wrapper::firstMisfitPlainly(int from, int end) const
 }
 
 /// The character in [low, high) with which the line stops fitting, or high, if widths grow: steps
-/// of doubling length from the guess, then halving.
-int Wrapper::boundary(int low, int high, int guess) const
+/// of doubling length from the guess until they have passed it, then halving.
+int Wrapper::boundary(int low, int high, int guess)
 {
+    bool fittingFound = false;
+    bool misfitFound = false;
     int step = 1;
     int probe = qBound(low, guess, high - 1);
-    const bool guessFits = fits(probe + 1);
-    while (low < high && fits(probe + 1) == guessFits) {
-        (guessFits ? low : high) = guessFits ? probe + 1 : probe;
-        probe = guessFits ? qMin(probe + step, high - 1) : qMax(probe - step, low);
-        step *= 2;
-    }
     while (low < high) {
-        const int middle = low + (high - low) / 2;
-        if (fits(middle + 1))
-            low = middle + 1;
+        const bool fitting = fits(probe + 1);
+        (fitting ? fittingFound : misfitFound) = true;
+        (fitting ? low : high) = fitting ? probe + 1 : probe;
+        if (fittingFound && misfitFound)
+            probe = low + (high - low) / 2;
         else
-            high = middle;
+            probe = fitting ? qMin(probe + step, high - 1) : qMax(probe - step, low);
+        step *= 2;
     }
     return low;
 }
 
 /// Kerning and ligatures can make a line narrower by a character more: walks back from \a found
 /// until the prefixes are narrower than the width by more than such a step.
-int Wrapper::withoutEarlierMisfit(int from, int found) const
+int Wrapper::withoutEarlierMisfit(int from, int found)
 {
     int first = found;
     for (int i = found - 1; i >= from; --i) {
@@ -219,15 +231,17 @@ int Wrapper::withoutEarlierMisfit(int from, int found) const
     return first;
 }
 
-int Wrapper::firstMisfitBySearch(int from, const Stretch &stretch) const
+int Wrapper::firstMisfitBySearch(int from, const Stretch &stretch)
 {
     // Blanks, digits and punctuation take the font of the first letter behind them, so the letter
     // may make them all narrower: prefixes with and without it are searched one after the other.
+    const auto beyond = std::upper_bound(m_expected.cbegin(), m_expected.cend(), m_width / m_ratio);
+    const int guess = m_line + int(beyond - m_expected.cbegin());
     int low = from;
     for (const int high : {stretch.strong, stretch.end}) {
         if (low >= high)
             continue;
-        const int found = withoutEarlierMisfit(low, boundary(low, high, stretch.estimated));
+        const int found = withoutEarlierMisfit(low, boundary(low, high, guess));
         if (found < high)
             return found;
         low = high;

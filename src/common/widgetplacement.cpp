@@ -97,7 +97,8 @@ void adjustButtonWidthWithText(QPushButton *button, int minWidth, int maxWidth, 
         width = minWidth;
     else if (width > maxWidth)
         width = maxWidth;
-    button->setFixedWidth(int(qBound<qint64>(0, width, QWIDGETSIZE_MAX)));
+    // QWIDGETSIZE_MAX itself would lift the limits of the width.
+    button->setFixedWidth(int(qBound<qint64>(0, width, QWIDGETSIZE_MAX - 1)));
 }
 
 void adjustHorSplitterSize(QWidget *widget, QSplitter *splitter, int side, int size, int minSize)
