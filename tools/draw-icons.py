@@ -201,19 +201,22 @@ ICONS = {
 }
 
 # The places where a file may keep its colour. Tinting writes a dot before a rule's name, so a rule
-# that should still match afterwards is named by the tag and met again as a class.
+# that should still match afterwards is named by the tag and met again as a class. Attributes beat
+# rules in the renderer, so only the empty frame of such a file has one.
 STYLED = {"camera", "record", "search", "check", "bell", "warning", "clock", "user"}
 STYLED_AND_FILLED = {"camera-off", "play", "settings", "lock", "calendar", "star"}
 
 
 def document(name, path):
-    style, extra = "", f' fill="{WHITE}"'
+    before, extra = "", f' fill="{WHITE}"'
     if name in STYLED:
-        style, extra = f"  <style>.a{{fill:{WHITE};}}</style>\n", ' class="a"'
+        before, extra = f"  <style>.a{{fill:{WHITE};}}</style>\n", ' class="a"'
     elif name in STYLED_AND_FILLED:
-        style, extra = f"  <style>path{{fill:{WHITE};}}</style>\n", f' class="path" fill="{WHITE}"'
+        before = (f"  <style>path{{fill:{WHITE};}}</style>\n"
+                  '  <rect width="24" height="24" fill="none"/>\n')
+        extra = ' class="path"'
     return ('<svg xmlns="http://www.w3.org/2000/svg" width="24" height="24" viewBox="0 0 24 24">\n'
-            f'{style}  <path{extra} d="{path}"/>\n</svg>\n')
+            f'{before}  <path{extra} d="{path}"/>\n</svg>\n')
 
 
 def main():
