@@ -43,10 +43,16 @@ void GalleryOptions::parse(const QStringList &arguments)
     const QCommandLineOption iconsOption(QStringLiteral("icons"),
                                          QStringLiteral("Folder of SVG files for the Icons page."),
                                          QStringLiteral("folder"));
-    parser.addOptions({listOption, pageOption, screenshotsOption, scaleOption, iconsOption});
+    const QCommandLineOption surveyOption(
+        QStringLiteral("survey"),
+        QStringLiteral("Tint every SVG file below a folder, print what became of them, and stop."),
+        QStringLiteral("folder"));
+    parser.addOptions(
+        {listOption, pageOption, screenshotsOption, scaleOption, iconsOption, surveyOption});
     parser.process(arguments);
     list = parser.isSet(listOption);
     page = parser.value(pageOption);
     screenshotFolder = parser.value(screenshotsOption);
     iconFolder = parser.value(iconsOption);
+    surveyFolder = parser.value(surveyOption);
 }

@@ -19,4 +19,6 @@ struct GalleryOptions
     QString page;
     QString screenshotFolder;
     QString iconFolder;
+    /// A folder whose SVG files are judged instead of showing the window.
+    QString surveyFolder;
 };

@@ -1,5 +1,6 @@
 #include "galleryoptions.h"
 #include "gallerywindow.h"
+#include "iconsurvey.h"
 
 #include <QApplication>
 #include <QDir>
@@ -71,6 +72,8 @@ int main(int argc, char **argv)
 
     GalleryOptions &options = GalleryOptions::current();
     options.parse(app.arguments());
+    if (!options.surveyFolder.isEmpty())
+        return runIconSurvey(options.surveyFolder);
     QFont font(QStringLiteral("Noto Sans CJK SC"));
     font.setPixelSize(14);
     app.setFont(font);
