@@ -207,9 +207,14 @@ STYLED = {"camera", "record", "search", "check", "bell", "warning", "clock", "us
 STYLED_AND_FILLED = {"camera-off", "play", "settings", "lock", "calendar", "star"}
 
 
-def document(name, path):
-    before, extra = "", f' fill="{WHITE}"'
-    if name in STYLED:
+# A sheet shows an icon as it stands, so the marks of disabled indicators need files of their own.
+DIMMED = {"check", "chevron-down", "chevron-up", "minus"}
+DIM = "#8a93a3"
+
+
+def document(name, path, color=WHITE):
+    before, extra = "", f' fill="{color}"'
+    if color == WHITE and name in STYLED:
         before, extra = f"  <style>.a{{fill:{WHITE};}}</style>\n", ' class="a"'
     elif name in STYLED_AND_FILLED:
         before = (f"  <style>path{{fill:{WHITE};}}</style>\n"
@@ -224,6 +229,8 @@ def main():
     folder.mkdir(parents=True, exist_ok=True)
     for name, path in ICONS.items():
         (folder / f"{name}.svg").write_text(document(name, path), encoding="utf-8")
+        if name in DIMMED:
+            (folder / f"{name}-dim.svg").write_text(document(name, path, DIM), encoding="utf-8")
 
 
 main()
