@@ -1,0 +1,246 @@
+#include "gallerypage.h"
+#include "pagekit.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSlider>
+#include <QSpinBox>
+#include <QSplitter>
+#include <QTabWidget>
+#include <QToolBar>
+
+namespace {
+
+QPushButton *button(const QString &text, const char *variant = nullptr)
+{
+    auto *widget = new QPushButton(text);
+    if (variant)
+        widget->setProperty(variant, true);
+    return widget;
+}
+
+template <typename W>
+W *disabled(W *widget)
+{
+    widget->setEnabled(false);
+    return widget;
+}
+
+template <typename B>
+B *checked(B *widget)
+{
+    widget->setCheckable(true);
+    widget->setChecked(true);
+    return widget;
+}
+
+QLayout *buttonRows()
+{
+    auto *grid = new QGridLayout;
+    grid->setHorizontalSpacing(12);
+    grid->setVerticalSpacing(8);
+    const QVector<QPair<QString, const char *>> variants = {
+        {QStringLiteral("Plain"), nullptr},
+        {QStringLiteral("button_primary"), "button_primary"},
+        {QStringLiteral("button_danger"), "button_danger"},
+        {QStringLiteral("button_labelLink"), "button_labelLink"},
+        {QStringLiteral("dense"), "dense"},
+    };
+    const QStringList states = {QStringLiteral("Normal"), QStringLiteral("Checked"),
+                                QStringLiteral("Disabled"), QStringLiteral("Checked, disabled")};
+    for (int i = 0; i < states.size(); ++i)
+        grid->addWidget(PageKit::caption(states.at(i)), 0, i + 1);
+    for (int row = 0; row < variants.size(); ++row) {
+        const char *variant = variants.at(row).second;
+        const QString text = QStringLiteral("Save recording");
+        grid->addWidget(PageKit::caption(variants.at(row).first), row + 1, 0);
+        grid->addWidget(button(text, variant), row + 1, 1, Qt::AlignLeft);
+        grid->addWidget(checked(button(text, variant)), row + 1, 2, Qt::AlignLeft);
+        grid->addWidget(disabled(button(text, variant)), row + 1, 3, Qt::AlignLeft);
+        grid->addWidget(disabled(checked(button(text, variant))), row + 1, 4, Qt::AlignLeft);
+    }
+    grid->setColumnStretch(5, 1);
+    return grid;
+}
+
+QLineEdit *edit(const QString &text, const QString &placeholder = QString())
+{
+    auto *widget = new QLineEdit(text);
+    widget->setPlaceholderText(placeholder);
+    widget->setFixedWidth(180);
+    return widget;
+}
+
+template <typename W>
+W *invalid(W *widget)
+{
+    widget->setProperty("Invalid", true);
+    return widget;
+}
+
+QComboBox *combo()
+{
+    auto *widget = new QComboBox;
+    widget->addItems({QStringLiteral("Main stream"), QStringLiteral("Sub stream")});
+    widget->setFixedWidth(180);
+    return widget;
+}
+
+QSpinBox *spin()
+{
+    auto *widget = new QSpinBox;
+    widget->setRange(1, 60);
+    widget->setValue(25);
+    widget->setSuffix(QStringLiteral(" fps"));
+    widget->setFixedWidth(180);
+    return widget;
+}
+
+QLineEdit *readOnly(QLineEdit *widget)
+{
+    widget->setReadOnly(true);
+    return widget;
+}
+
+QLayout *fieldRows()
+{
+    auto *grid = new QGridLayout;
+    grid->setHorizontalSpacing(12);
+    grid->setVerticalSpacing(8);
+    const QStringList states = {QStringLiteral("Normal"), QStringLiteral("Empty, read-only"),
+                                QStringLiteral("Invalid"), QStringLiteral("Disabled")};
+    for (int i = 0; i < states.size(); ++i)
+        grid->addWidget(PageKit::caption(states.at(i)), 0, i);
+    const QString name = QStringLiteral("North gate");
+    const QVector<QVector<QWidget *>> rows = {
+        {edit(name), edit(QString(), QStringLiteral("Camera name")), invalid(edit(name)),
+         disabled(edit(name))},
+        {spin(), readOnly(edit(QStringLiteral("192.0.2.17"))), invalid(spin()), disabled(spin())},
+        {combo(), nullptr, invalid(combo()), disabled(combo())},
+    };
+    for (int row = 0; row < rows.size(); ++row) {
+        for (int column = 0; column < rows.at(row).size(); ++column) {
+            if (QWidget *widget = rows.at(row).at(column))
+                grid->addWidget(widget, row + 1, column);
+        }
+    }
+    auto *notes = new QPlainTextEdit(QStringLiteral("Gate opened by the night shift."));
+    notes->setFixedHeight(98);
+    grid->addWidget(notes, 1, 4, 3, 1);
+    return grid;
+}
+
+QLayout *choices()
+{
+    auto *partly = new QCheckBox(QStringLiteral("Some cameras"));
+    partly->setTristate(true);
+    partly->setCheckState(Qt::PartiallyChecked);
+    auto *radio = new QRadioButton(QStringLiteral("Continuous"));
+    radio->setChecked(true);
+    const QVector<QWidget *> boxes = {new QCheckBox(QStringLiteral("Motion")),
+                                      checked(new QCheckBox(QStringLiteral("Line crossing"))),
+                                      partly,
+                                      disabled(checked(new QCheckBox(QStringLiteral("Audio"))))};
+    const QVector<QWidget *> radios = {radio, new QRadioButton(QStringLiteral("On event")),
+                                       disabled(new QRadioButton(QStringLiteral("Never")))};
+    auto *grid = new QGridLayout;
+    grid->setHorizontalSpacing(16);
+    for (int row = 0; row < boxes.size(); ++row)
+        grid->addWidget(boxes.at(row), row, 0);
+    for (int row = 0; row < radios.size(); ++row)
+        grid->addWidget(radios.at(row), row, 1);
+    grid->setColumnStretch(2, 1);
+    return grid;
+}
+
+QSlider *slider(int value)
+{
+    auto *widget = new QSlider(Qt::Horizontal);
+    widget->setValue(value);
+    widget->setFixedSize(160, 24);
+    return widget;
+}
+
+QLayout *barsAndMenus()
+{
+    auto *progress = new QProgressBar;
+    progress->setValue(62);
+    progress->setFixedWidth(160);
+    auto *menus = new QMenuBar;
+    for (const char *name : {"View", "Playback"})
+        menus->addMenu(QString::fromLatin1(name))->addAction(QStringLiteral("Close"));
+    menus->setFixedWidth(150);
+    auto *tools = new QToolBar;
+    for (const char *icon : {"record", "snapshot", "microphone", "maximize", "settings"}) {
+        tools->addAction(QIcon(QStringLiteral(":/Resource/icons/%1.svg").arg(QLatin1String(icon))),
+                         QString());
+    }
+    tools->insertSeparator(tools->actions().at(2));
+    tools->actions().constFirst()->setCheckable(true);
+    tools->actions().constFirst()->setChecked(true);
+    tools->setIconSize(QSize(20, 20));
+    auto *line = new QHBoxLayout;
+    line->setSpacing(24);
+    const QVector<QWidget *> widgets = {slider(40), disabled(slider(70)), progress, menus, tools};
+    for (QWidget *widget : widgets)
+        line->addWidget(widget, 0, Qt::AlignVCenter);
+    line->addStretch(1);
+    return line;
+}
+
+QWidget *panes()
+{
+    auto *tabs = new QTabWidget;
+    for (const char *name : {"Events", "Recordings", "Health"})
+        tabs->addTab(new QLabel(QStringLiteral("  No event in this hour")),
+                     QString::fromLatin1(name));
+    auto *group = new QGroupBox(QStringLiteral("Schedule"));
+    auto *column = new QVBoxLayout(group);
+    column->addWidget(checked(new QCheckBox(QStringLiteral("Weekdays"))));
+    column->addWidget(new QCheckBox(QStringLiteral("Weekend")));
+    auto *list = new QListWidget;
+    list->addItems({QStringLiteral("North gate"), QStringLiteral("Car park"),
+                    QStringLiteral("Loading bay"), QStringLiteral("Server room"),
+                    QStringLiteral("Lobby")});
+    list->setCurrentRow(1);
+    auto *splitter = new QSplitter;
+    splitter->addWidget(tabs);
+    splitter->addWidget(group);
+    splitter->addWidget(list);
+    splitter->setFixedHeight(132);
+    return splitter;
+}
+
+class QtBasesPage : public QWidget
+{
+public:
+    QtBasesPage()
+    {
+        auto *column = PageKit::pageLayout(
+            this, QStringLiteral("Qt bases"),
+            QStringLiteral("What the starter theme's sheet makes of Qt's own widgets, on which "
+                           "the controls stand."));
+        auto *first = new QHBoxLayout;
+        first->setSpacing(16);
+        first->addWidget(PageKit::card(QStringLiteral("Push buttons"), buttonRows()), 1);
+        first->addWidget(PageKit::card(QStringLiteral("Choices"), choices()));
+        column->addLayout(first);
+        column->addWidget(PageKit::card(QStringLiteral("Fields"), fieldRows()));
+        column->addWidget(PageKit::card(QStringLiteral("Sliders, bars and menus"), barsAndMenus()));
+        column->addWidget(PageKit::card(QStringLiteral("Panes and lists"), panes()));
+    }
+};
+
+const GalleryPage page{15, QStringLiteral("Qt bases"), [] { return new QtBasesPage; }};
+
+} // namespace
