@@ -6,6 +6,7 @@
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QImage>
+#include <QMap>
 #include <QPainter>
 #include <QSvgRenderer>
 #include <QTextStream>
@@ -21,6 +22,7 @@ constexpr int kJudgedSize = 24;
 constexpr qint64 kVeryLarge = 100 * 1024;
 constexpr int kSolidAlpha = 128;
 constexpr int kColorTolerance = 24;
+constexpr int kExamples = 5;
 constexpr double kFloodedShare = 0.9;
 constexpr double kUnfloodedShare = 0.75;
 constexpr QRgb kSurveyTint = 0xffff00ff;
@@ -57,6 +59,7 @@ struct Ink
     int any = 0;
     int solid = 0;
     int inTint = 0;
+    bool colorful = false;
 };
 
 bool isNear(QRgb pixel, QRgb tint)
@@ -69,6 +72,7 @@ bool isNear(QRgb pixel, QRgb tint)
 Ink inkOf(const QImage &image, QRgb tint)
 {
     Ink ink;
+    QRgb first = 0;
     for (int y = 0; y < image.height(); ++y) {
         const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
         for (int x = 0; x < image.width(); ++x) {
@@ -76,7 +80,9 @@ Ink inkOf(const QImage &image, QRgb tint)
             ink.any += qAlpha(pixel) > 0 ? 1 : 0;
             if (qAlpha(pixel) < kSolidAlpha)
                 continue;
+            first = ink.solid == 0 ? pixel : first;
             ++ink.solid;
+            ink.colorful |= !isNear(pixel, first);
             ink.inTint += isNear(pixel, tint) ? 1 : 0;
         }
     }
@@ -167,6 +173,46 @@ QString tableRow(const QString &name, const IconCounts::Outcomes &outcomes)
     return row + QLatin1Char('\n');
 }
 
+/// Some files by name, of the kinds that one will want to look at.
+class Remarkable
+{
+public:
+    void add(const QString &file, const IconVerdict &verdict, qint64 time)
+    {
+        if (time > m_slowestTime || m_slowest.isEmpty()) {
+            m_slowestTime = time;
+            m_slowest = file;
+        }
+        if (verdict.flooded)
+            keep(QStringLiteral("nearly solid"), file);
+        if (verdict.outcome > IconVerdict::PartlyTinted)
+            keep(outcomeName(verdict.outcome), file);
+    }
+
+    QString text() const
+    {
+        QString lines;
+        for (auto it = m_examples.begin(); it != m_examples.end(); ++it) {
+            for (const QString &file : it.value())
+                lines += it.key() + QStringLiteral(": ") + file + QLatin1Char('\n');
+        }
+        return lines
+            + QStringLiteral("slowest: %1 ms, %2\n").arg(QString::number(m_slowestTime), m_slowest);
+    }
+
+private:
+    void keep(const QString &kind, const QString &file)
+    {
+        QStringList &files = m_examples[kind];
+        if (files.size() < kExamples)
+            files.append(file);
+    }
+
+    QMap<QString, QStringList> m_examples;
+    QString m_slowest;
+    qint64 m_slowestTime = 0;
+};
+
 } // namespace
 
 IconWalker::IconWalker(const QString &folder)
@@ -214,6 +260,7 @@ IconVerdict judgeIcon(const QString &file, const QColor &tint, bool withFeatures
 
     const Ink inkBefore = inkOf(before, tint.rgb());
     const Ink inkAfter = inkOf(after, tint.rgb());
+    verdict.flattened = inkBefore.colorful && !inkAfter.colorful;
     verdict.appeared = inkBefore.any == 0 && inkAfter.any > 0;
     verdict.vanished = inkBefore.any > 0 && inkAfter.any == 0;
     verdict.flooded =
@@ -235,6 +282,7 @@ void IconCounts::add(const IconVerdict &verdict)
     for (size_t i = 0; i < features.size(); ++i)
         features.at(i).at(verdict.outcome) += verdict.features.at(i) ? 1 : 0;
     flooded += verdict.flooded ? 1 : 0;
+    flattened += verdict.flattened ? 1 : 0;
     appeared += verdict.appeared ? 1 : 0;
     vanished += verdict.vanished ? 1 : 0;
 }
@@ -262,6 +310,7 @@ QString IconCounts::table() const
     text += QLatin1Char('\n') + tableRow(QStringLiteral("all"), outcomes);
     for (int i = 0; i < IconVerdict::FeatureCount; ++i)
         text += tableRow(featureName(i), features.at(size_t(i)));
+    text += QStringLiteral("of several colours, now one: %1\n").arg(flattened);
     text += QStringLiteral("nearly solid after the tint: %1\n").arg(flooded);
     text += QStringLiteral("nothing to see before the tint: %1, after it: %2\n")
                 .arg(appeared)
@@ -282,20 +331,17 @@ int runIconSurvey(const QString &folder)
     warnings = 0;
     const QtMessageHandler earlier = qInstallMessageHandler(countWarning);
     IconCounts counts;
-    QElapsedTimer clock;
-    qint64 slowest = 0;
-    QString slowestFile;
+    Remarkable remarkable;
     for (const QString &file : qAsConst(files)) {
+        QElapsedTimer clock;
         clock.start();
-        counts.add(judgeIcon(file, QColor(kSurveyTint), true));
-        if (clock.elapsed() > slowest) {
-            slowest = clock.elapsed();
-            slowestFile = file;
-        }
+        const IconVerdict verdict = judgeIcon(file, QColor(kSurveyTint), true);
+        counts.add(verdict);
+        remarkable.add(file, verdict, clock.elapsed());
     }
     qInstallMessageHandler(earlier);
     out << counts.line() << "\n\n" << counts.table();
     out << "warnings of the renderer: " << warnings << '\n';
-    out << "slowest: " << slowest << " ms, " << slowestFile << '\n';
+    out << remarkable.text();
     return 0;
 }

@@ -58,6 +58,8 @@ struct IconVerdict
     /// Empty parts were filled: the tinted picture is a nearly solid block, unlike the authored
     /// one.
     bool flooded = false;
+    /// Several colours became one, so what was told apart by colour is a silhouette now.
+    bool flattened = false;
     /// Nothing was to see before the tint; or after it.
     bool appeared = false;
     bool vanished = false;
@@ -82,6 +84,7 @@ struct IconCounts
     Outcomes outcomes{};
     std::array<Outcomes, IconVerdict::FeatureCount> features{};
     int flooded = 0;
+    int flattened = 0;
     int appeared = 0;
     int vanished = 0;
 };
