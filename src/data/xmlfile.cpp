@@ -78,9 +78,9 @@ void XmlFile::readFile(const QString &file)
     QFile source(file);
     if (!QFileInfo(source).isFile() || !source.open(QIODevice::ReadOnly))
         return;
-    QByteArray bytes;
-    if (source.size() <= kMaxFileSize)
-        bytes = source.read(kMaxFileSize + 1);
+    // A file that gives no size, as some made up by the system do, is read to its end.
+    const qint64 size = source.size() > 0 ? source.size() : kMaxFileSize + 1;
+    QByteArray bytes = source.read(qMin(size, kMaxFileSize + 1));
     if (bytes.size() > kMaxFileSize)
         bytes.clear();
     d->document = std::make_shared<CusDomDocument>(bytes);
