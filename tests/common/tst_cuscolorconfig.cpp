@@ -39,10 +39,8 @@ private Q_SLOTS:
     void missingOrBrokenFileLeavesEverythingInvalid_data();
     void missingOrBrokenFileLeavesEverythingInvalid();
     void readsTheFile();
-    void builtInColors_data();
     void builtInColors();
     void paletteRepeatsAndClampsBelow();
-    void badPaletteIsEmpty();
     void keysComeFromTheObjectNotFromTheFields();
 };
 
@@ -94,75 +92,51 @@ void TestCusColorConfig::readsTheFile()
     QVERIFY(config.getColorList(QStringLiteral("absent")).isEmpty());
 }
 
-void TestCusColorConfig::builtInColors_data()
-{
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QString>("builtIn");
-    const QStringList rows = QStringLiteral("mainColor #256EB4,successColor #109E5C,"
-                                            "warningColor #FFAF14,danger1Color #F14958,"
-                                            "danger2Color #C83F3F,highlightColor #429EF6,"
-                                            "bakcgroundColor #0F121A,"
-                                            "negativeBarBackgroundColor #262F3E,"
-                                            "dialogHeaderColor #323C4E,"
-                                            "dialogBackgroundColor #27303E,bubbleColor #424E64,"
-                                            "mainTextColor #FFFFFF,subTextColor #A0A7B4")
-                                 .split(QLatin1Char(','));
-    for (const QString &row : rows)
-        QTest::newRow(qPrintable(row))
-            << row.section(QLatin1Char(' '), 0, 0) << row.section(QLatin1Char(' '), 1);
-}
-
 void TestCusColorConfig::builtInColors()
 {
-    using Accessor = const QColor &(CusColorConfig::*)() const;
-    static const QHash<QString, Accessor> accessors = {
-        {QStringLiteral("mainColor"), &CusColorConfig::mainColor},
-        {QStringLiteral("successColor"), &CusColorConfig::successColor},
-        {QStringLiteral("warningColor"), &CusColorConfig::warningColor},
-        {QStringLiteral("danger1Color"), &CusColorConfig::danger1Color},
-        {QStringLiteral("danger2Color"), &CusColorConfig::danger2Color},
-        {QStringLiteral("highlightColor"), &CusColorConfig::highlightColor},
-        {QStringLiteral("bakcgroundColor"), &CusColorConfig::bakcgroundColor},
-        {QStringLiteral("negativeBarBackgroundColor"), &CusColorConfig::negativeBarBackgroundColor},
-        {QStringLiteral("dialogHeaderColor"), &CusColorConfig::dialogHeaderColor},
-        {QStringLiteral("dialogBackgroundColor"), &CusColorConfig::dialogBackgroundColor},
-        {QStringLiteral("bubbleColor"), &CusColorConfig::bubbleColor},
-        {QStringLiteral("mainTextColor"), &CusColorConfig::mainTextColor},
-        {QStringLiteral("subTextColor"), &CusColorConfig::subTextColor}};
-    QFETCH(QString, key);
-    QFETCH(QString, builtIn);
+    struct Row
+    {
+        const char *key;
+        const QColor &(CusColorConfig::*accessor)() const;
+        QRgb builtIn;
+    };
+    using C = CusColorConfig;
+    const Row rows[] = {{"mainColor", &C::mainColor, 0x256eb4},
+                        {"successColor", &C::successColor, 0x109e5c},
+                        {"warningColor", &C::warningColor, 0xffaf14},
+                        {"danger1Color", &C::danger1Color, 0xf14958},
+                        {"danger2Color", &C::danger2Color, 0xc83f3f},
+                        {"highlightColor", &C::highlightColor, 0x429ef6},
+                        {"bakcgroundColor", &C::bakcgroundColor, 0x0f121a},
+                        {"negativeBarBackgroundColor", &C::negativeBarBackgroundColor, 0x262f3e},
+                        {"dialogHeaderColor", &C::dialogHeaderColor, 0x323c4e},
+                        {"dialogBackgroundColor", &C::dialogBackgroundColor, 0x27303e},
+                        {"bubbleColor", &C::bubbleColor, 0x424e64},
+                        {"mainTextColor", &C::mainTextColor, 0xffffff},
+                        {"subTextColor", &C::subTextColor, 0xa0a7b4}};
     const RegisteredTheme theme(QStringLiteral("theme.rcc"));
     Config config;
-    const Accessor accessor = accessors.value(key);
-    config.setConfig({});
-    QCOMPARE((config.*accessor)(), QColor(builtIn));
-    config.setConfig({{key, QStringLiteral("#80010203")}});
-    QCOMPARE((config.*accessor)(), QColor(1, 2, 3, 0x80));
+    for (const Row &row : rows) {
+        config.setConfig({});
+        QCOMPARE((config.*row.accessor)(), QColor(row.builtIn));
+        config.setConfig({{QString::fromLatin1(row.key), QStringLiteral("#80010203")}});
+        QCOMPARE((config.*row.accessor)(), QColor(1, 2, 3, 0x80));
+    }
 }
 
 void TestCusColorConfig::paletteRepeatsAndClampsBelow()
 {
     const RegisteredTheme theme(QStringLiteral("theme.rcc"));
     Config config;
-    config.setConfig({});
-    QCOMPARE(config.getCommonColorByIndex(0), QColor(0xef, 0x8e, 0x2e));
-    QCOMPARE(config.getCommonColorByIndex(9), QColor(0x1e, 0x6e, 0xe5));
-    QCOMPARE(config.getCommonColorByIndex(-5), config.commonColors().at(0));
-    QCOMPARE(config.getCommonColorByIndex(23), config.commonColors().at(3));
-}
-
-void TestCusColorConfig::badPaletteIsEmpty()
-{
-    const RegisteredTheme theme(QStringLiteral("theme.rcc"));
-    Config config;
     const QString key = QStringLiteral("commonColors");
+    config.setConfig({{key, QJsonValue::Null}});
+    QCOMPARE(config.getCommonColorByIndex(9), QColor(0x1e, 0x6e, 0xe5));
+    QCOMPARE(config.getCommonColorByIndex(-5), QColor(0xef, 0x8e, 0x2e));
+    QCOMPARE(config.getCommonColorByIndex(23), config.commonColors().at(3));
     for (const QJsonValue &palette : {QJsonValue(QJsonArray()), QJsonValue(5)}) {
         config.setConfig({{key, palette}});
-        QVERIFY(config.commonColors().isEmpty());
         QVERIFY(!config.getCommonColorByIndex(3).isValid());
     }
-    config.setConfig({{key, QJsonValue::Null}});
-    QCOMPARE(config.commonColors().size(), 10);
 }
 
 void TestCusColorConfig::keysComeFromTheObjectNotFromTheFields()

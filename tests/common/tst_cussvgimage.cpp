@@ -23,13 +23,10 @@ private Q_SLOTS:
     void tintGoesWhereTheFileKeepsItsColor();
     void opacityHasOneDecimalAndGoesAgain();
     void tintsFollowEachOther();
-    void invalidColor();
     void loadResetsEverything();
     void paintsTheTintIntoTheWholeRectangle();
     void renderersAreKept();
-    void pixmap_data();
     void pixmap();
-    void infoNeedsASource_data();
     void infoNeedsASource();
     void infoKeepsItsRenderer();
     void infoSharesTheDocumentOfItsOwnFile();
@@ -158,14 +155,7 @@ void TestCusSvgImage::tintsFollowEachOther()
     QVERIFY(text.contains("<style>..a{fill:#0000ff;}..b{fill:none;}</style>"));
     QVERIFY(!text.contains("opacity"));
     QCOMPARE(image.getFillColorByteArray(Qt::blue), text);
-}
-
-void TestCusSvgImage::invalidColor()
-{
-    const CusSvgImage image(svg("<path fill='white'/>"));
-    QVERIFY(image.getFillColorByteArray(QColor()).contains("fill=\"white\""));
-    image.getFillColorByteArray(Qt::red);
-    QVERIFY(image.getFillColorByteArray(QColor()).contains("fill=\"#000000\""));
+    QVERIFY(image.getFillColorByteArray(QColor()).contains("#000000"));
 }
 
 void TestCusSvgImage::loadResetsEverything()
@@ -221,77 +211,37 @@ void TestCusSvgImage::renderersAreKept()
     QCOMPARE(renderers.alive(), 1);
 }
 
-void TestCusSvgImage::pixmap_data()
-{
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<bool>("null");
-    QTest::newRow("usual") << QSize(20, 10) << false;
-    QTest::newRow("one pixel") << QSize(1, 1) << false;
-    QTest::newRow("null") << QSize(0, 0) << true;
-    QTest::newRow("half null") << QSize(0, 5) << true;
-    QTest::newRow("invalid") << QSize() << true;
-    QTest::newRow("negative") << QSize(-5, -5) << true;
-    QTest::newRow("very wide") << QSize(40000, 1) << true;
-    QTest::newRow("huge") << QSize(INT_MAX, INT_MAX) << true;
-}
-
 void TestCusSvgImage::pixmap()
 {
-    QFETCH(QSize, size);
-    QFETCH(bool, null);
-    const QString bad = write("no SVG");
+    const QSize size(20, 10);
+    const QString absent = QStringLiteral("absent");
     const QImage authored = CusSvgImage::svgToPixmap(m_square, size, QColor()).toImage();
+    QCOMPARE(TestKit::extentOf(authored, Qt::green), QRect(QPoint(), size));
     const QImage tinted = CusSvgImage::svgToPixmap(m_square, size, Qt::red).toImage();
-    const QImage empty = CusSvgImage::svgToPixmap(bad, size, Qt::red).toImage();
-    QCOMPARE(empty.isNull(), null);
-    if (null) {
-        QVERIFY(authored.isNull() && tinted.isNull());
-    } else {
-        QCOMPARE(TestKit::extentOf(authored, Qt::green), QRect(QPoint(), size));
-        QCOMPARE(TestKit::extentOf(tinted, Qt::red), QRect(QPoint(), size));
-        QCOMPARE(TestKit::inkExtent(empty, Qt::transparent), QRect());
-        QCOMPARE(empty.pixelColor(0, 0).alpha(), 0);
-    }
-    QVERIFY(CusSvgImage::svgToPixmap(QStringLiteral("absent"), size, Qt::red).isNull());
-}
-
-void TestCusSvgImage::infoNeedsASource_data()
-{
-    QTest::addColumn<bool>("ownImage");
-    QTest::addColumn<bool>("color");
-    QTest::addColumn<bool>("shared");
-    QTest::addColumn<QColor>("painted");
-    QTest::newRow("nothing") << false << false << true << QColor();
-    QTest::newRow("color without a source") << false << true << false << QColor();
-    QTest::newRow("color and shared document") << false << true << true << QColor(Qt::red);
-    QTest::newRow("own file") << true << false << false << QColor(Qt::green);
-    QTest::newRow("own file and color") << true << true << true << QColor(Qt::red);
+    QCOMPARE(TestKit::extentOf(tinted, Qt::red), QRect(QPoint(), size));
+    const QImage bad = CusSvgImage::svgToPixmap(write("no SVG"), size, Qt::red).toImage();
+    QCOMPARE(bad.size(), size);
+    QCOMPARE(bad.pixelColor(0, 0).alpha(), 0);
+    QVERIFY(CusSvgImage::svgToPixmap(absent, size, Qt::red).isNull());
+    for (const QSize &empty : {QSize(0, 0), QSize(0, 5), QSize(), QSize(-5, -5), QSize(40000, 1),
+                               QSize(30000, 30000), QSize(INT_MAX, INT_MAX)})
+        QVERIFY(CusSvgImage::svgToPixmap(m_square, empty, Qt::red).isNull());
 }
 
 void TestCusSvgImage::infoNeedsASource()
 {
-    QFETCH(bool, ownImage);
-    QFETCH(bool, color);
-    QFETCH(bool, shared);
-    QFETCH(QColor, painted);
-    CusSvgImage other(svg("<circle cx='12' cy='12' r='40' fill='#00ffff'/>"));
+    CusSvgImage shared(m_square);
     CusSvgImage none;
     SvgImageInfo info;
-    if (ownImage)
-        info.setSvgImage(m_square);
-    if (color)
-        info.setSvgColor(Qt::red);
-    info.init(shared ? &other : nullptr);
-    if (!shared)
-        info.init(&none);
-    QCOMPARE(info.render() != nullptr, painted.isValid());
-    if (!info.render())
-        return;
-    QImage canvas(8, 8, QImage::Format_ARGB32_Premultiplied);
-    canvas.fill(TestKit::unpainted);
-    QPainter painter(&canvas);
-    info.render()->render(&painter);
-    QCOMPARE(canvas.pixelColor(4, 4), painted);
+    info.init(&shared);
+    QVERIFY(!info.render());
+    info.setSvgColor(Qt::red);
+    info.init(nullptr);
+    info.init(&none);
+    QVERIFY(!info.render());
+    info.init(&shared);
+    QVERIFY(info.render() && info.render()->isValid());
+    QCOMPARE(TestKit::countOf(painted(shared), Qt::red), 24 * 24);
 }
 
 void TestCusSvgImage::infoKeepsItsRenderer()
@@ -322,12 +272,17 @@ void TestCusSvgImage::infoKeepsItsRenderer()
 
 void TestCusSvgImage::infoSharesTheDocumentOfItsOwnFile()
 {
-    CusSvgImage image(m_square);
-    SvgImageInfo info;
-    info.setSvgImage(m_square);
-    info.setSvgColor(Qt::red);
-    info.init(&image);
-    QCOMPARE(TestKit::countOf(painted(image), Qt::red), 24 * 24);
+    CusSvgImage same(m_square);
+    CusSvgImage other(svg("<rect width='24' height='24' fill='#00ffff'/>"));
+    for (CusSvgImage *image : {&same, &other}) {
+        SvgImageInfo info;
+        info.setSvgImage(m_square);
+        info.setSvgColor(Qt::red);
+        info.init(image);
+        QVERIFY(info.render()->isValid());
+    }
+    QCOMPARE(TestKit::countOf(painted(same), Qt::red), 24 * 24);
+    QCOMPARE(TestKit::countOf(painted(other), Qt::cyan), 24 * 24);
 }
 
 void TestCusSvgImage::refusedFilesPaintNothing_data()
@@ -336,7 +291,7 @@ void TestCusSvgImage::refusedFilesPaintNothing_data()
     const QByteArray rect = "<rect width='24' height='24'/>";
     QByteArray laughs = "<rect id='u0' width='24' height='24'/>";
     QByteArray chain = laughs;
-    for (int i = 1; i < 2000; ++i) {
+    for (int i = 1; i < 600; ++i) {
         const QByteArray id = QByteArray::number(i);
         const QByteArray use = "<use xlink:href='#u" + QByteArray::number(i - 1) + "'/>";
         chain += "<g id='u" + id + "'>" + use + "</g>";
@@ -360,9 +315,8 @@ void TestCusSvgImage::refusedFilesPaintNothing_data()
                                                 "<g id='b'><use xlink:href='#a'/></g>");
     QTest::newRow("uses that multiply") << svg(laughs);
     QTest::newRow("chain of uses") << svg(chain);
-    QTest::newRow("many uses of much")
-        << svg("<g id='a'>" + rect.repeated(3000) + "</g>"
-               + QByteArray("<use xlink:href='#a'/>").repeated(3000));
+    QTest::newRow("many uses of much") << svg("<g id='a'>" + rect.repeated(400) + "</g>"
+                                              + QByteArray("<use xlink:href='#a'/>").repeated(400));
     QTest::newRow("picture in a pipe") << svg("<image xlink:href='" + pipeName + "'/>" + rect);
     QTest::newRow("huge picture inside")
         << svg("<image width='9' height='9' xlink:href='data:image/svg+xml;base64,"
@@ -370,14 +324,12 @@ void TestCusSvgImage::refusedFilesPaintNothing_data()
     QTest::newRow("style sheet in a pipe")
         << svg(rect, "<?xml-stylesheet type=\"text/css\" href=\"" + pipeName + "\"?>");
     QTest::newRow("gradient stops")
-        << svg("<linearGradient id='g'>" + QByteArray("<stop offset='0'/>").repeated(100000)
+        << svg("<linearGradient id='g'>" + QByteArray("<stop offset='0'/>").repeated(600)
                + "</linearGradient>" + rect);
-    QTest::newRow("rules times elements")
-        << svg("<style>" + QByteArray(".a{fill:red;}").repeated(20000) + "</style>"
-               + rect.repeated(20000));
-    QTest::newRow("fine dashes") << svg("<path stroke='red' stroke-dasharray='0.01' d='M0 0"
-                                        + QByteArray("l20 1l-20 -1").repeated(20000) + "'/>"
-                                        + rect);
+    QTest::newRow("rules times elements") << svg(
+        "<style>" + QByteArray(".a{fill:red;}").repeated(3000) + "</style>" + rect.repeated(3000));
+    QTest::newRow("fine dashes") << svg("<path stroke='red' stroke-dasharray='0.001' d='M0 0"
+                                        + QByteArray("l20 1l-20 -1").repeated(3000) + "'/>" + rect);
     QTest::newRow("UTF-7 declared") << svg(rect, "<?xml version='1.0' encoding='UTF-7'?>");
 }
 
