@@ -62,7 +62,8 @@ void TestStylableBases::overflowingTabsHaveNoArrowsAndNoWheel()
     tabs.resize(240, 150);
     tabs.grab();
     int shown = 0;
-    for (const QToolButton *arrow : tabs.tabBar()->findChildren<QToolButton *>()) {
+    const auto arrows = tabs.tabBar()->findChildren<QToolButton *>();
+    for (const QToolButton *arrow : arrows) {
         shown += arrow->isVisible() ? 1 : 0;
         QCOMPARE(arrow->size(), QSize(1, 1));
     }
