@@ -1,4 +1,5 @@
 #include "common/cusuicommonfun.h"
+#include "common/steadytext.h"
 
 #include <QFontMetricsF>
 #include <QHash>
@@ -29,24 +30,6 @@ bool breaksAfter(QChar c)
 {
     return breaksBefore(c) || c == QLatin1Char(',') || c == QLatin1Char(';')
         || c == QLatin1Char('.');
-}
-
-/// Whether the width of a text that ends in \a c can be taken to grow with each character: no
-/// combining or joining, no right-to-left order, no tab, no surrogate. The ranges that texts of a
-/// client are mostly made of are enough; what is left out is only slower.
-bool growsSteadily(QChar c)
-{
-    static constexpr std::pair<char16_t, char16_t> ranges[] = {
-        {0x0020, 0x007e}, {0x00a0, 0x00ac}, {0x00ae, 0x02ff}, // Latin, without the soft hyphen
-        {0x0391, 0x03a1}, {0x03a3, 0x03ff}, {0x0400, 0x0482}, {0x048a, 0x052f}, // Greek, Cyrillic
-        {0x2012, 0x2027}, {0x2030, 0x203a}, {0x20a0, 0x20bf}, // punctuation, currencies
-        {0x3000, 0x3029}, {0x3041, 0x3096}, {0x30a0, 0x30fe}, // CJK punctuation, kana
-        {0x3400, 0x4dbf}, {0x4e00, 0x9fff}, {0xff01, 0xff60}, // ideographs, full-width forms
-    };
-    const char16_t unit = c.unicode();
-    return std::any_of(std::begin(ranges), std::end(ranges), [unit](const auto &range) {
-        return range.first <= unit && unit <= range.second;
-    });
 }
 
 /// Breaks one text. A line is always a stretch [m_line, end) of the text and its last word a
@@ -126,10 +109,10 @@ qreal Wrapper::expectedAdvance(QChar c)
 bool Wrapper::isSteady(QChar c)
 {
     if (c.unicode() >= m_steadyLatin.size())
-        return growsSteadily(c) && expectedAdvance(c) > 0;
+        return vellum::growsSteadily(c) && expectedAdvance(c) > 0;
     Steadiness &known = m_steadyLatin[c.unicode()];
     if (known == Unknown) {
-        known = growsSteadily(c) && expectedAdvance(c) > 0 ? Steady : Unsteady;
+        known = vellum::growsSteadily(c) && expectedAdvance(c) > 0 ? Steady : Unsteady;
         if (known == Steady)
             m_latinAdvances[c.unicode()] = expectedAdvance(c);
     }
