@@ -567,8 +567,8 @@ void CusSvgPushButton::paintSvgBtn(QPainter *painter, const QStyleOptionButton &
         style->drawControl(QStyle::CE_PushButton, &base, painter, this);
     }
 
-    const BtnState state =
-        drawType == DrawStype_Widget ? widgetBtnState(option.state) : stampBtnState(option.state);
+    const BtnState state = drawType == DrawStype_Widget ? vellum::widgetBtnState(option.state)
+                                                        : vellum::stampBtnState(option.state);
     renderInto(painter, d->bgLayer.renderer(state),
                d->layout.backgroundRect(option.rect, d->bgLayer.size));
     renderInto(painter, d->borderLayer.renderer(state), option.rect);
