@@ -46,117 +46,117 @@ void CusSvgPushButton::setSvgBGImage(const QString &image)
 
 QString CusSvgPushButton::getSvgBGImage() const
 {
-    return d->bgLayer[BtnState::Normal].svgImage();
+    return d->bgLayer.imageOf(BtnState::Normal);
 }
 
 void CusSvgPushButton::setSvgBGNormalColor(const QColor &color)
 {
-    d->bgLayer[BtnState::Normal].setSvgColor(color);
+    d->bgLayer.setColor(BtnState::Normal, color);
 }
 
 QColor CusSvgPushButton::getSvgBGNormalColor() const
 {
-    return d->bgLayer[BtnState::Normal].svgColor();
+    return d->bgLayer.colorOf(BtnState::Normal);
 }
 
 void CusSvgPushButton::setSvgBGHoverImage(const QString &image)
 {
-    d->bgLayer[BtnState::Hover].setSvgImage(image);
+    d->bgLayer.setImage(BtnState::Hover, image);
 }
 
 QString CusSvgPushButton::getSvgBGHoverImage() const
 {
-    return d->bgLayer[BtnState::Hover].svgImage();
+    return d->bgLayer.imageOf(BtnState::Hover);
 }
 
 void CusSvgPushButton::setSvgBGHoverColor(const QColor &color)
 {
-    d->bgLayer[BtnState::Hover].setSvgColor(color);
+    d->bgLayer.setColor(BtnState::Hover, color);
 }
 
 QColor CusSvgPushButton::getSvgBGHoverColor() const
 {
-    return d->bgLayer[BtnState::Hover].svgColor();
+    return d->bgLayer.colorOf(BtnState::Hover);
 }
 
 void CusSvgPushButton::setSvgBGPressedImage(const QString &image)
 {
-    d->bgLayer[BtnState::Pressed].setSvgImage(image);
+    d->bgLayer.setImage(BtnState::Pressed, image);
 }
 
 QString CusSvgPushButton::getSvgBGPressedImage() const
 {
-    return d->bgLayer[BtnState::Pressed].svgImage();
+    return d->bgLayer.imageOf(BtnState::Pressed);
 }
 
 void CusSvgPushButton::setSvgBGPressedColor(const QColor &color)
 {
-    d->bgLayer[BtnState::Pressed].setSvgColor(color);
+    d->bgLayer.setColor(BtnState::Pressed, color);
 }
 
 QColor CusSvgPushButton::getSvgBGPressedColor() const
 {
-    return d->bgLayer[BtnState::Pressed].svgColor();
+    return d->bgLayer.colorOf(BtnState::Pressed);
 }
 
 void CusSvgPushButton::setSvgBGCheckedImage(const QString &image)
 {
-    d->bgLayer[BtnState::Checked].setSvgImage(image);
+    d->bgLayer.setImage(BtnState::Checked, image);
 }
 
 QString CusSvgPushButton::getSvgBGCheckedImage() const
 {
-    return d->bgLayer[BtnState::Checked].svgImage();
+    return d->bgLayer.imageOf(BtnState::Checked);
 }
 
 void CusSvgPushButton::setSvgBGCheckedColor(const QColor &color)
 {
-    d->bgLayer[BtnState::Checked].setSvgColor(color);
+    d->bgLayer.setColor(BtnState::Checked, color);
 }
 
 QColor CusSvgPushButton::getSvgBGCheckedColor() const
 {
-    return d->bgLayer[BtnState::Checked].svgColor();
+    return d->bgLayer.colorOf(BtnState::Checked);
 }
 
 void CusSvgPushButton::setSvgBGDisableImage(const QString &image)
 {
-    d->bgLayer[BtnState::Disable].setSvgImage(image);
+    d->bgLayer.setImage(BtnState::Disable, image);
 }
 
 QString CusSvgPushButton::getSvgBGDisableImage() const
 {
-    return d->bgLayer[BtnState::Disable].svgImage();
+    return d->bgLayer.imageOf(BtnState::Disable);
 }
 
 void CusSvgPushButton::setSvgBGDisableColor(const QColor &color)
 {
-    d->bgLayer[BtnState::Disable].setSvgColor(color);
+    d->bgLayer.setColor(BtnState::Disable, color);
 }
 
 QColor CusSvgPushButton::getSvgBGDisableColor() const
 {
-    return d->bgLayer[BtnState::Disable].svgColor();
+    return d->bgLayer.colorOf(BtnState::Disable);
 }
 
 void CusSvgPushButton::setSvgBGSelectedImage(const QString &image)
 {
-    d->bgLayer[BtnState::Selected].setSvgImage(image);
+    d->bgLayer.setImage(BtnState::Selected, image);
 }
 
 QString CusSvgPushButton::getSvgBGSelectedImage() const
 {
-    return d->bgLayer[BtnState::Selected].svgImage();
+    return d->bgLayer.imageOf(BtnState::Selected);
 }
 
 void CusSvgPushButton::setSvgBGSelectedColor(const QColor &color)
 {
-    d->bgLayer[BtnState::Selected].setSvgColor(color);
+    d->bgLayer.setColor(BtnState::Selected, color);
 }
 
 QColor CusSvgPushButton::getSvgBGSelectedColor() const
 {
-    return d->bgLayer[BtnState::Selected].svgColor();
+    return d->bgLayer.colorOf(BtnState::Selected);
 }
 
 void CusSvgPushButton::setSvgBorderImage(const QString &image)
@@ -166,117 +166,117 @@ void CusSvgPushButton::setSvgBorderImage(const QString &image)
 
 QString CusSvgPushButton::getSvgBorderImage() const
 {
-    return d->borderLayer[BtnState::Normal].svgImage();
+    return d->borderLayer.imageOf(BtnState::Normal);
 }
 
 void CusSvgPushButton::setSvgNormalColor(const QColor &color)
 {
-    d->borderLayer[BtnState::Normal].setSvgColor(color);
+    d->borderLayer.setColor(BtnState::Normal, color);
 }
 
 QColor CusSvgPushButton::getSvgNormalColor() const
 {
-    return d->borderLayer[BtnState::Normal].svgColor();
+    return d->borderLayer.colorOf(BtnState::Normal);
 }
 
 void CusSvgPushButton::setSvgHoverImage(const QString &image)
 {
-    d->borderLayer[BtnState::Hover].setSvgImage(image);
+    d->borderLayer.setImage(BtnState::Hover, image);
 }
 
 QString CusSvgPushButton::getSvgHoverImage() const
 {
-    return d->borderLayer[BtnState::Hover].svgImage();
+    return d->borderLayer.imageOf(BtnState::Hover);
 }
 
 void CusSvgPushButton::setSvgHoverColor(const QColor &color)
 {
-    d->borderLayer[BtnState::Hover].setSvgColor(color);
+    d->borderLayer.setColor(BtnState::Hover, color);
 }
 
 QColor CusSvgPushButton::getSvgHoverColor() const
 {
-    return d->borderLayer[BtnState::Hover].svgColor();
+    return d->borderLayer.colorOf(BtnState::Hover);
 }
 
 void CusSvgPushButton::setSvgPressedImage(const QString &image)
 {
-    d->borderLayer[BtnState::Pressed].setSvgImage(image);
+    d->borderLayer.setImage(BtnState::Pressed, image);
 }
 
 QString CusSvgPushButton::getSvgPressedImage() const
 {
-    return d->borderLayer[BtnState::Pressed].svgImage();
+    return d->borderLayer.imageOf(BtnState::Pressed);
 }
 
 void CusSvgPushButton::setSvgPressedColor(const QColor &color)
 {
-    d->borderLayer[BtnState::Pressed].setSvgColor(color);
+    d->borderLayer.setColor(BtnState::Pressed, color);
 }
 
 QColor CusSvgPushButton::getSvgPressedColor() const
 {
-    return d->borderLayer[BtnState::Pressed].svgColor();
+    return d->borderLayer.colorOf(BtnState::Pressed);
 }
 
 void CusSvgPushButton::setSvgCheckedImage(const QString &image)
 {
-    d->borderLayer[BtnState::Checked].setSvgImage(image);
+    d->borderLayer.setImage(BtnState::Checked, image);
 }
 
 QString CusSvgPushButton::getSvgCheckedImage() const
 {
-    return d->borderLayer[BtnState::Checked].svgImage();
+    return d->borderLayer.imageOf(BtnState::Checked);
 }
 
 void CusSvgPushButton::setSvgCheckedColor(const QColor &color)
 {
-    d->borderLayer[BtnState::Checked].setSvgColor(color);
+    d->borderLayer.setColor(BtnState::Checked, color);
 }
 
 QColor CusSvgPushButton::getSvgCheckedColor() const
 {
-    return d->borderLayer[BtnState::Checked].svgColor();
+    return d->borderLayer.colorOf(BtnState::Checked);
 }
 
 void CusSvgPushButton::setSvgDisableImage(const QString &image)
 {
-    d->borderLayer[BtnState::Disable].setSvgImage(image);
+    d->borderLayer.setImage(BtnState::Disable, image);
 }
 
 QString CusSvgPushButton::getSvgDisableImage() const
 {
-    return d->borderLayer[BtnState::Disable].svgImage();
+    return d->borderLayer.imageOf(BtnState::Disable);
 }
 
 void CusSvgPushButton::setSvgDisableColor(const QColor &color)
 {
-    d->borderLayer[BtnState::Disable].setSvgColor(color);
+    d->borderLayer.setColor(BtnState::Disable, color);
 }
 
 QColor CusSvgPushButton::getSvgDisableColor() const
 {
-    return d->borderLayer[BtnState::Disable].svgColor();
+    return d->borderLayer.colorOf(BtnState::Disable);
 }
 
 void CusSvgPushButton::setSvgSelectedImage(const QString &image)
 {
-    d->borderLayer[BtnState::Selected].setSvgImage(image);
+    d->borderLayer.setImage(BtnState::Selected, image);
 }
 
 QString CusSvgPushButton::getSvgSelectedImage() const
 {
-    return d->borderLayer[BtnState::Selected].svgImage();
+    return d->borderLayer.imageOf(BtnState::Selected);
 }
 
 void CusSvgPushButton::setSvgSelectedColor(const QColor &color)
 {
-    d->borderLayer[BtnState::Selected].setSvgColor(color);
+    d->borderLayer.setColor(BtnState::Selected, color);
 }
 
 QColor CusSvgPushButton::getSvgSelectedColor() const
 {
-    return d->borderLayer[BtnState::Selected].svgColor();
+    return d->borderLayer.colorOf(BtnState::Selected);
 }
 
 void CusSvgPushButton::setSvgIconImage(const QString &image)
@@ -286,97 +286,97 @@ void CusSvgPushButton::setSvgIconImage(const QString &image)
 
 QString CusSvgPushButton::getSvgIconImage() const
 {
-    return d->iconLayer[BtnState::Normal].svgImage();
+    return d->iconLayer.imageOf(BtnState::Normal);
 }
 
 void CusSvgPushButton::setSvgIconNormalColor(const QColor &color)
 {
-    d->iconLayer[BtnState::Normal].setSvgColor(color);
+    d->iconLayer.setColor(BtnState::Normal, color);
 }
 
 QColor CusSvgPushButton::getSvgIconNormalColor() const
 {
-    return d->iconLayer[BtnState::Normal].svgColor();
+    return d->iconLayer.colorOf(BtnState::Normal);
 }
 
 void CusSvgPushButton::setSvgIconHoverImage(const QString &image)
 {
-    d->iconLayer[BtnState::Hover].setSvgImage(image);
+    d->iconLayer.setImage(BtnState::Hover, image);
 }
 
 QString CusSvgPushButton::getSvgIconHoverImage() const
 {
-    return d->iconLayer[BtnState::Hover].svgImage();
+    return d->iconLayer.imageOf(BtnState::Hover);
 }
 
 void CusSvgPushButton::setSvgIconHoverColor(const QColor &color)
 {
-    d->iconLayer[BtnState::Hover].setSvgColor(color);
+    d->iconLayer.setColor(BtnState::Hover, color);
 }
 
 QColor CusSvgPushButton::getSvgIconHoverColor() const
 {
-    return d->iconLayer[BtnState::Hover].svgColor();
+    return d->iconLayer.colorOf(BtnState::Hover);
 }
 
 void CusSvgPushButton::setSvgIconPressedImage(const QString &image)
 {
-    d->iconLayer[BtnState::Pressed].setSvgImage(image);
+    d->iconLayer.setImage(BtnState::Pressed, image);
 }
 
 QString CusSvgPushButton::getSvgIconPressedImage() const
 {
-    return d->iconLayer[BtnState::Pressed].svgImage();
+    return d->iconLayer.imageOf(BtnState::Pressed);
 }
 
 void CusSvgPushButton::setSvgIconPressedColor(const QColor &color)
 {
-    d->iconLayer[BtnState::Pressed].setSvgColor(color);
+    d->iconLayer.setColor(BtnState::Pressed, color);
 }
 
 QColor CusSvgPushButton::getSvgIconPressedColor() const
 {
-    return d->iconLayer[BtnState::Pressed].svgColor();
+    return d->iconLayer.colorOf(BtnState::Pressed);
 }
 
 void CusSvgPushButton::setSvgIconCheckedImage(const QString &image)
 {
-    d->iconLayer[BtnState::Checked].setSvgImage(image);
+    d->iconLayer.setImage(BtnState::Checked, image);
 }
 
 QString CusSvgPushButton::getSvgIconCheckedImage() const
 {
-    return d->iconLayer[BtnState::Checked].svgImage();
+    return d->iconLayer.imageOf(BtnState::Checked);
 }
 
 void CusSvgPushButton::setSvgIconCheckedColor(const QColor &color)
 {
-    d->iconLayer[BtnState::Checked].setSvgColor(color);
+    d->iconLayer.setColor(BtnState::Checked, color);
 }
 
 QColor CusSvgPushButton::getSvgIconCheckedColor() const
 {
-    return d->iconLayer[BtnState::Checked].svgColor();
+    return d->iconLayer.colorOf(BtnState::Checked);
 }
 
 void CusSvgPushButton::setSvgIconDisableImage(const QString &image)
 {
-    d->iconLayer[BtnState::Disable].setSvgImage(image);
+    d->iconLayer.setImage(BtnState::Disable, image);
 }
 
 QString CusSvgPushButton::getSvgIconDisableImage() const
 {
-    return d->iconLayer[BtnState::Disable].svgImage();
+    return d->iconLayer.imageOf(BtnState::Disable);
 }
 
 void CusSvgPushButton::setSvgIconDisableColor(const QColor &color)
 {
-    d->iconLayer[BtnState::Disable].setSvgColor(color);
+    d->iconLayer.setColor(BtnState::Disable, color);
 }
 
 QColor CusSvgPushButton::getSvgIconDisableColor() const
 {
-    return d->iconLayer[BtnState::Disable].svgColor();
+    return d->iconLayer.colorOf(BtnState::Disable);
 }
 
 void CusSvgPushButton::setSvgBGWidth(int width)

@@ -1,12 +1,11 @@
 #pragma once
 
-#include "common/cussvgimage.h"
-#include "common/svgimageinfo.h"
-
+#include <QColor>
 #include <QSize>
+#include <QString>
 #include <QStyle>
 
-#include <array>
+#include <memory>
 
 class QSvgRenderer;
 
@@ -29,14 +28,20 @@ BtnState widgetBtnState(QStyle::State state);
 BtnState stampBtnState(QStyle::State state);
 
 /// One of the stacked pictures of a button: an image and a colour for each state, and the renderers
-/// that are kept of them. It can't be copied, since the image can't.
+/// that are kept of them. It can't be copied, since the image can't. Few buttons use every layer,
+/// so a layer takes memory only from its first setter on.
 class SvgBtnLayer
 {
 public:
-    SvgImageInfo &operator[](BtnState state) { return m_pairs[static_cast<size_t>(state)]; }
+    SvgBtnLayer();
+    ~SvgBtnLayer();
 
+    QString imageOf(BtnState state) const;
+    QColor colorOf(BtnState state) const;
     /// The normal state's file is also the document that the states with only a colour recolour.
     void setNormalImage(const QString &file);
+    void setImage(BtnState state, const QString &file);
+    void setColor(BtnState state, const QColor &color);
 
     /// The renderer of the normal state, made where it is missing; null where there is none.
     QSvgRenderer *normalRenderer();
@@ -46,10 +51,10 @@ public:
     QSize size{16, 16};
 
 private:
-    static constexpr size_t kStateCount = 6;
+    struct Pictures;
+    Pictures &pictures();
 
-    CusSvgImage m_image;
-    std::array<SvgImageInfo, kStateCount> m_pairs;
+    std::unique_ptr<Pictures> m_pictures;
 };
 
 } // namespace vellum
