@@ -1,0 +1,139 @@
+#include "support/guardedtest.h"
+
+#include <Vellum/NoContentTipLabel>
+
+#include <QTranslator>
+#include <QtTest>
+
+class TestContentTips : public GuardedTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void standsWhereItsTypeSays_data();
+    void standsWhereItsTypeSays();
+    void followsItsWidget();
+    void showsAsChildUntilToldNothing();
+    void followsTheLanguage();
+
+private:
+    QScopedPointer<QWidget> m_page;
+    QWidget *m_list = nullptr;
+    NoContentTipLabel *m_label = nullptr;
+    const QString m_text = QStringLiteral("No cameras");
+};
+
+namespace {
+
+class Marker : public QTranslator
+{
+public:
+    QString translate(const char *context, const char *source, const char *, int) const override
+    {
+        return QLatin1String(context) + QLatin1Char('/') + QLatin1String(source);
+    }
+    bool isEmpty() const override { return false; }
+};
+
+} // namespace
+
+void TestContentTips::init()
+{
+    GuardedTest::init();
+    m_page.reset(new QWidget);
+    m_page->resize(400, 300);
+    m_list = new QWidget(m_page.data());
+    m_list->setGeometry(50, 20, 300, 200);
+    m_label = new NoContentTipLabel(m_page.data());
+    m_page->show();
+}
+
+void TestContentTips::standsWhereItsTypeSays_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QPoint>("pos");
+    QTest::newRow("top") << int(NoContentTipLabel::Show_Top) << QPoint(57, 29);
+    QTest::newRow("centre ignores y") << int(NoContentTipLabel::Show_Center) << QPoint(57, 120);
+    QTest::newRow("below") << int(NoContentTipLabel::Show_Below) << QPoint(57, 229);
+    QTest::newRow("unknown counts as top") << 0 << QPoint(57, 29);
+}
+
+void TestContentTips::standsWhereItsTypeSays()
+{
+    QFETCH(int, type);
+    m_label->showTipContent(m_text, m_list, NoContentTipLabel::ShowType(type), 7, 9);
+    QVERIFY(m_label->isVisible());
+    QCOMPARE(m_label->width(), 300);
+    QTEST(m_label->pos(), "pos");
+
+    NoContentTipLabel orphan;
+    orphan.showTipContent(m_text, m_list, NoContentTipLabel::ShowType(type), 7, 9);
+    QVERIFY(!orphan.isVisible());
+    orphan.setParent(m_page.data());
+    orphan.resetPosition(nullptr, 7, 9);
+    // No type was stored, so the place is that of Show_Top.
+    orphan.resetPosition(m_list, 7, 9);
+    QCOMPARE(orphan.pos(), QPoint(57, 29));
+}
+
+void TestContentTips::followsItsWidget()
+{
+    m_label->showTipContent(m_text, m_list, NoContentTipLabel::Show_Below, 7, 9);
+    m_list->move(60, 30);
+    QCOMPARE(m_label->pos(), QPoint(80, 270));
+    m_list->resize(200, 100);
+    QCOMPARE(m_label->geometry().topLeft(), QPoint(80, 170));
+    QCOMPARE(m_label->width(), 300);
+    m_page->resize(500, 300);
+    QCOMPARE(m_label->width(), 200);
+
+    // Another widget takes the first one's place.
+    auto *other = new QWidget(m_page.data());
+    other->resize(100, 100);
+    m_label->showTipContent(QString(99, QLatin1Char('x')).replace(10, 1, QLatin1Char(' ')), other,
+                            NoContentTipLabel::Show_Top, 0, 0);
+    QVERIFY(m_label->height() >= m_label->heightForWidth(100));
+    m_list->move(0, 0);
+    QCOMPARE(m_label->pos(), QPoint(0, 0));
+    delete other;
+    m_page->resize(600, 300);
+    QCOMPARE(m_label->pos(), QPoint(0, 0));
+}
+
+void TestContentTips::showsAsChildUntilToldNothing()
+{
+    const auto top = NoContentTipLabel::Show_Top;
+    const QList<std::function<void()>> nothings = {
+        [&] { m_label->showTipContent(QString(), m_list, top, 0, 0); },
+        [&] { m_label->showTipContent(m_text, nullptr, top, 0, 0); },
+        [&] { m_label->showTipContent(m_text, m_label, top, 0, 0); },
+        [&] { m_label->showTipContentAsChild(QString(), m_list, 0, 0); },
+        [&] { m_label->showTipContentAsChild(m_text, m_label, 0, 0); }};
+    for (const auto &nothing : nothings) {
+        m_label->showTipContentAsChild(m_text, m_list, 3, 4);
+        QCOMPARE(m_label->parentWidget(), m_list);
+        QCOMPARE(m_label->pos(), QPoint(3, 4));
+        nothing();
+        m_label->updateTipContentAsChild(QString());
+        QVERIFY(!m_label->isVisible());
+    }
+    m_label->updateTipContentAsChild(QStringLiteral("No events"));
+    QVERIFY(m_label->isVisible());
+    QCOMPARE(m_label->text(), QStringLiteral("No events"));
+}
+
+void TestContentTips::followsTheLanguage()
+{
+    m_label->showTipContent(m_text, m_list, NoContentTipLabel::Show_Top, 0, 0);
+    QCOMPARE(m_label->text(), m_text);
+    Marker translator;
+    QCoreApplication::installTranslator(&translator);
+    m_label->resetWidgetUiLanguage();
+    QCOMPARE(m_label->text(), QStringLiteral("NoContentTipLabel/No cameras"));
+    m_label->resetWidgetUiLanguage();
+    QCOMPARE(m_label->text(), QStringLiteral("NoContentTipLabel/No cameras"));
+}
+
+QTEST_MAIN(TestContentTips)
+#include "tst_contenttips.moc"
