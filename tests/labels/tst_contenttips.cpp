@@ -1,10 +1,13 @@
 #include "support/guardedtest.h"
 
+#include <Vellum/CusSvgPushButton>
 #include <Vellum/NoContentTipLabel>
+#include <Vellum/WarningTipAndJumpLink>
 
 #include <QTranslator>
 #include <QtTest>
 
+/// NoContentTipLabel and WarningTipAndJumpLink: the tips that stand in a page.
 class TestContentTips : public GuardedTest
 {
     Q_OBJECT
@@ -16,6 +19,8 @@ private Q_SLOTS:
     void followsItsWidget();
     void showsAsChildUntilToldNothing();
     void followsTheLanguage();
+    void linkReportsItsClick();
+    void settersTellOnlyChanges();
 
 private:
     QScopedPointer<QWidget> m_page;
@@ -133,6 +138,44 @@ void TestContentTips::followsTheLanguage()
     QCOMPARE(m_label->text(), QStringLiteral("NoContentTipLabel/No cameras"));
     m_label->resetWidgetUiLanguage();
     QCOMPARE(m_label->text(), QStringLiteral("NoContentTipLabel/No cameras"));
+}
+
+void TestContentTips::linkReportsItsClick()
+{
+    WarningTipAndJumpLink line;
+    QCOMPARE(line.size(), QSize(342, 34));
+    QVERIFY(line.findChild<CusSvgPushButton *>(QStringLiteral("pushButton_warningIcon")));
+    auto *link = line.findChild<QPushButton *>(QStringLiteral("pushButton_link"));
+    QVERIFY(link && link->property("button_labelLink").toBool());
+    const QSignalSpy pressed(&line, &WarningTipAndJumpLink::signalJumpLinkPressed);
+    QTest::mouseClick(link, Qt::LeftButton);
+    QCOMPARE(pressed, (QList<QVariantList>{{false}}));
+}
+
+void TestContentTips::settersTellOnlyChanges()
+{
+    WarningTipAndJumpLink line;
+    const QSignalSpy text(&line, &WarningTipAndJumpLink::labelTipTextChanged);
+    const QSignalSpy jumpText(&line, &WarningTipAndJumpLink::labelJumpTextChanged);
+    const QSignalSpy visible(&line, &WarningTipAndJumpLink::labelTipTextVisibleChanged);
+    const QSignalSpy jumpVisible(&line, &WarningTipAndJumpLink::labelJumpTextVisibleChanged);
+    const auto setTwice = [&] {
+        for (int i = 0; i < 2; ++i) {
+            line.setLabelTipText(m_text);
+            line.setLabelJumpText(m_text);
+            line.setLabelTipTextVisible(false);
+            line.setLabelJumpTextVisible(true);
+        }
+    };
+    // Before the line is shown no part counts as visible.
+    setTwice();
+    QCOMPARE(jumpVisible.count(), 2);
+    line.show();
+    setTwice();
+    QCOMPARE(jumpVisible.count(), 2);
+    QCOMPARE(visible, (QList<QVariantList>{{false}}));
+    QCOMPARE(text, (QList<QVariantList>{{m_text}}));
+    QCOMPARE(jumpText, (QList<QVariantList>{{m_text}}));
 }
 
 QTEST_MAIN(TestContentTips)
