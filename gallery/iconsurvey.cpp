@@ -147,7 +147,7 @@ void readFeatures(const QFileInfo &info, IconVerdict *verdict)
 QString outcomeName(int outcome)
 {
     static const std::array<const char *, IconVerdict::OutcomeCount> names = {
-        "tinted", "partly", "kept", "blank", "unreadable"};
+        "tinted", "partly", "missed", "kept", "blank", "unreadable"};
     return QString::fromLatin1(names.at(size_t(outcome)));
 }
 
@@ -269,6 +269,8 @@ IconVerdict judgeIcon(const QString &file, const QColor &tint, bool withFeatures
         verdict.outcome = IconVerdict::Blank;
     else if (before == after)
         verdict.outcome = IconVerdict::Kept;
+    else if (inkAfter.inTint == 0 && inkAfter.solid > 0)
+        verdict.outcome = IconVerdict::Missed;
     else if (inkAfter.inTint == inkAfter.solid)
         verdict.outcome = IconVerdict::Tinted;
     else
@@ -295,7 +297,8 @@ int IconCounts::total() const
 QString IconCounts::line() const
 {
     const QLocale locale(QLocale::English);
-    const int changed = outcomes[IconVerdict::Tinted] + outcomes[IconVerdict::PartlyTinted];
+    const int changed = outcomes[IconVerdict::Tinted] + outcomes[IconVerdict::PartlyTinted]
+        + outcomes[IconVerdict::Missed];
     const int kept = outcomes[IconVerdict::Kept] + outcomes[IconVerdict::Blank];
     return QStringLiteral("%1 files: %2 changed, %3 kept their colours, %4 could not be read")
         .arg(locale.toString(total()), locale.toString(changed), locale.toString(kept),

@@ -31,6 +31,7 @@ struct IconVerdict
     {
         Tinted,       ///< all ink has the tint's colour
         PartlyTinted, ///< the picture changed, and some ink keeps another colour
+        Missed,       ///< the picture changed, but nothing has the tint's colour
         Kept,         ///< the same picture as before
         Blank,        ///< nothing to see before and after
         Unreadable,   ///< no such file, no SVG, or refused by the tinting

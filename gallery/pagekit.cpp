@@ -64,8 +64,12 @@ QFrame *card(const QString &title, QLayout *content)
     auto *layout = new QVBoxLayout(frame);
     layout->setContentsMargins(kCardPadding, kCardPadding - 4, kCardPadding, kCardPadding);
     layout->setSpacing(kCardPadding - 4);
-    if (!title.isEmpty())
-        layout->addWidget(namedLabel(title, QStringLiteral("gallery_cardTitle")));
+    if (!title.isEmpty()) {
+        auto *label = namedLabel(title, QStringLiteral("gallery_cardTitle"));
+        // A card beside a higher one is stretched; its title stays at the top.
+        label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+        layout->addWidget(label);
+    }
     layout->addLayout(content);
     return frame;
 }

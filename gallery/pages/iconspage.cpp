@@ -201,7 +201,7 @@ void IconDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     }
 
     const int outcome = index.data(kOutcomeRole).toInt();
-    if (outcome == IconVerdict::Kept || outcome == IconVerdict::Blank) {
+    if (outcome >= IconVerdict::Missed && outcome <= IconVerdict::Blank) {
         painter->setPen(Qt::NoPen);
         painter->setBrush(m_kept);
         painter->drawEllipse(QRectF(option.rect.right() - 14, option.rect.y() + 8, 6, 6));

@@ -160,6 +160,7 @@ QLayout *choices()
     for (int row = 0; row < radios.size(); ++row)
         grid->addWidget(radios.at(row), row, 1);
     grid->setColumnStretch(2, 1);
+    grid->setRowStretch(boxes.size(), 1);
     return grid;
 }
 
@@ -179,7 +180,7 @@ QLayout *barsAndMenus()
     auto *menus = new QMenuBar;
     for (const char *name : {"View", "Playback"})
         menus->addMenu(QString::fromLatin1(name))->addAction(QStringLiteral("Close"));
-    menus->setFixedWidth(150);
+    menus->setFixedWidth(190);
     auto *tools = new QToolBar;
     for (const char *icon : {"record", "snapshot", "microphone", "maximize", "settings"}) {
         tools->addAction(QIcon(QStringLiteral(":/Resource/icons/%1.svg").arg(QLatin1String(icon))),

@@ -59,6 +59,10 @@ void TestIconSurvey::judgesByThePicture_data()
         << svg("<style>.a{fill:#000;}</style><path class=\"a\" fill=\"#000\" "
                "d=\"M4 4h16v16H4z\"/>")
         << int(IconVerdict::Kept);
+    QTest::newRow("currentColor loses the rule that named it")
+        << svg("<style>.a{color:#080;}</style><path class=\"a\" fill=\"currentColor\" "
+               "d=\"M4 4h16v16H4z\"/>")
+        << int(IconVerdict::Missed);
     QTest::newRow("stroke keeps its colour")
         << svg("<path d=\"M4 4h16v16H4z\" stroke=\"#00f\" stroke-width=\"4\"/>")
         << int(IconVerdict::PartlyTinted);
@@ -170,12 +174,12 @@ void TestIconSurvey::countsAddUp()
     IconCounts counts;
     for (int i = 0; i < 1200; ++i) {
         IconVerdict verdict;
-        verdict.outcome = i < 1000 ? IconVerdict::Tinted : IconVerdict::Outcome(i % 5);
+        verdict.outcome = IconVerdict::Outcome(i % IconVerdict::OutcomeCount);
         verdict.flooded = i == 0;
         counts.add(verdict);
     }
     QCOMPARE(counts.line(),
-             QStringLiteral("1,200 files: 1,080 changed, 80 kept their colours, 40 could not be "
+             QStringLiteral("1,200 files: 600 changed, 400 kept their colours, 200 could not be "
                             "read"));
     QCOMPARE(counts.flooded, 1);
     QVERIFY(counts.table().contains(QStringLiteral("nearly solid after the tint: 1")));
