@@ -13,6 +13,8 @@ constexpr int kBorderModules = 1;
 /// Qt's SVG reader cuts a path off behind 32,767 elements; a row has at most 89 runs of five.
 constexpr int kRowsOfPath = 64;
 constexpr qint64 kMaxPixels = 64 * 1024 * 1024;
+/// Painting reaches no further; what lies behind would show memory that nobody has written.
+constexpr int kMaxSide = 32767;
 /// Digits, the densest text, at medium level in the largest symbol.
 constexpr int kMaxCharacters = 5596;
 
@@ -57,8 +59,8 @@ QByteArray toSvg(const qrcodegen::QrCode &code)
 
 QPixmap generateQRCode(const QString &text, const QSize &size)
 {
-    if (size.isEmpty() || qint64(size.width()) * size.height() > kMaxPixels
-        || text.size() > kMaxCharacters)
+    if (size.isEmpty() || qMax(size.width(), size.height()) > kMaxSide
+        || qint64(size.width()) * size.height() > kMaxPixels || text.size() > kMaxCharacters)
         return {};
     QByteArray svg;
     try {

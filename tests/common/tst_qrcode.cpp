@@ -43,7 +43,6 @@ private Q_SLOTS:
     void anIndependentReaderDecodesIt_data();
     void anIndependentReaderDecodesIt();
     void borderIsOneModule();
-    void fillsThePixmap();
     void neutralResults_data();
     void neutralResults();
 };
@@ -57,8 +56,6 @@ void TestQrCode::anIndependentReaderDecodesIt_data()
     QTest::newRow("an address") << QStringLiteral("https://example.org/device?sn=DS-2CD/0042")
                                 << QSize(160, 160);
     QTest::newRow("Chinese") << QString::fromUtf8("北门停车场入口 3 号摄像机") << QSize(220, 220);
-    QTest::newRow("1,000 characters")
-        << QStringLiteral("Gate 4; ").repeated(125) << QSize(900, 900);
     QTest::newRow("600 ideographs")
         << QString::fromUtf8("录像通道").repeated(150) << QSize(1200, 1200);
     QTest::newRow("modules of broken pixels") << QStringLiteral("camera 17") << QSize(101, 101);
@@ -79,29 +76,16 @@ void TestQrCode::anIndependentReaderDecodesIt()
 
 void TestQrCode::borderIsOneModule()
 {
-    // The smallest symbol has 21 modules: 23 with the border, 10 pixels each.
-    const QImage image = generateQRCode(QStringLiteral("7"), QSize(230, 230)).toImage();
-    QCOMPARE(image.pixelColor(5, 5), QColor(Qt::white));
-    QCOMPARE(image.pixelColor(15, 15), QColor(Qt::black));
-    QCOMPARE(image.pixelColor(25, 25), QColor(Qt::white));
-    QCOMPARE(image.pixelColor(35, 35), QColor(Qt::black));
-    QCOMPARE(image.pixelColor(9, 100), QColor(Qt::white));
-    QCOMPARE(image.pixelColor(10, 10), QColor(Qt::black));
-    QCOMPARE(image.pixelColor(224, 15), QColor(Qt::white));
-    QCOMPARE(image.pixelColor(214, 15), QColor(Qt::black));
-}
-
-void TestQrCode::fillsThePixmap()
-{
+    // The smallest symbol has 21 modules: 23 with the border, here of 10 x 3 pixels.
     const QImage image = generateQRCode(QStringLiteral("7"), QSize(230, 69)).toImage();
-    for (int x = 0; x < image.width(); ++x) {
-        QCOMPARE(image.pixelColor(x, 0), QColor(Qt::white));
-        QCOMPARE(image.pixelColor(x, image.height() - 1), QColor(Qt::white));
-    }
-    // Finder patterns in three corners, stretched with the pixmap.
-    QCOMPARE(image.pixelColor(45, 13), QColor(Qt::black));
-    QCOMPARE(image.pixelColor(185, 13), QColor(Qt::black));
-    QCOMPARE(image.pixelColor(45, 55), QColor(Qt::black));
+    const auto darkAt = [&image](int column, int row) {
+        return image.pixelColor(10 * column + 5, 3 * row + 1) == QColor(Qt::black);
+    };
+    for (int i = 0; i < 23; ++i)
+        QVERIFY(!darkAt(i, 0) && !darkAt(i, 22) && !darkAt(0, i) && !darkAt(22, i));
+    for (int i = 1; i <= 7; ++i) // the finder patterns
+        QVERIFY(darkAt(i, 1) && darkAt(1, i) && darkAt(22 - i, 7) && darkAt(i, 21));
+    QVERIFY(!darkAt(2, 2) && darkAt(3, 3));
 }
 
 void TestQrCode::neutralResults_data()
@@ -116,13 +100,11 @@ void TestQrCode::neutralResults_data()
     QTest::newRow("one byte too many") << letters(2332) << size << true;
     QTest::newRow("far too long") << letters(50000000) << size << true;
     QTest::newRow("empty text") << QString() << size << false;
-    QTest::newRow("null size") << letters(1) << QSize(0, 0) << true;
-    QTest::newRow("no size") << letters(1) << QSize() << true;
     QTest::newRow("negative size") << letters(1) << QSize(-50, -50) << true;
     QTest::newRow("no height") << letters(1) << QSize(50, 0) << true;
     QTest::newRow("one pixel") << letters(1) << QSize(1, 1) << false;
     QTest::newRow("huge") << letters(1) << QSize(2147483647, 2147483647) << true;
-    QTest::newRow("long and thin") << letters(1) << QSize(1, 40000) << false;
+    QTest::newRow("longer than painting reaches") << letters(1) << QSize(1, 32768) << true;
 }
 
 void TestQrCode::neutralResults()
