@@ -80,7 +80,7 @@ void CusMousePressedMove::mouseReleaseEvent(QMouseEvent *event)
     d->drag.movedY = distance(d->drag.startPos.y(), event->pos().y());
 }
 
-bool CusMousePressedMove::getCurMovedXY(int &x, int &y)
+bool CusMousePressedMove::getCurMovedXY(int &x, int &y) const
 {
     if (!d->drag.pressed)
         return false;
@@ -89,7 +89,7 @@ bool CusMousePressedMove::getCurMovedXY(int &x, int &y)
     return true;
 }
 
-bool CusMousePressedMove::getMovedDxDy(int &dx, int &dy)
+bool CusMousePressedMove::getMovedDxDy(int &dx, int &dy) const
 {
     if (!d->drag.pressed)
         return false;
@@ -98,14 +98,14 @@ bool CusMousePressedMove::getMovedDxDy(int &dx, int &dy)
     return true;
 }
 
-bool CusMousePressedMove::getMovedXY(int &x, int &y)
+bool CusMousePressedMove::getMovedXY(int &x, int &y) const
 {
     x = d->drag.movedX;
     y = d->drag.movedY;
     return true;
 }
 
-bool CusMousePressedMove::getStartMovedPoint(QPoint &point)
+bool CusMousePressedMove::getStartMovedPoint(QPoint &point) const
 {
     if (!d->drag.pressed)
         return false;

@@ -33,13 +33,13 @@ public:
     void mouseReleaseEvent(QMouseEvent *event);
 
     /// The distance from the drag's start to the last position; false without a running drag.
-    bool getCurMovedXY(int &x, int &y);
+    bool getCurMovedXY(int &x, int &y) const;
     /// The last step, 0 before the first; false without a running drag.
-    bool getMovedDxDy(int &dx, int &dy);
+    bool getMovedDxDy(int &dx, int &dy) const;
     /// The total of the drag that ended last, 0 since the last press; always true.
-    bool getMovedXY(int &x, int &y);
+    bool getMovedXY(int &x, int &y) const;
     /// Where the running drag began; false without one.
-    bool getStartMovedPoint(QPoint &point);
+    bool getStartMovedPoint(QPoint &point) const;
 
 private:
     struct Private;

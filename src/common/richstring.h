@@ -39,5 +39,5 @@ private:
     QString m_html;
 };
 
-Q_DECLARE_METATYPE(RichString)
 Q_DECLARE_TYPEINFO(RichString, Q_MOVABLE_TYPE);
+Q_DECLARE_METATYPE(RichString)
