@@ -47,6 +47,7 @@ public:
 protected:
     void run() override
     {
+        setTerminationEnabled(false); // a cancelled thread would unwind into the catch below
         try {
             m_fun();
         } catch (...) {
