@@ -93,11 +93,15 @@ void TestStylableBases::tabsFillTheBar()
 void TestStylableBases::theHoverPaneWaitsAtTheLowerEdge()
 {
     CusScrollArea area;
+    area.resize(300, 200);
     area.show();
     auto *const pane = area.findChild<CusScrollHoverPane *>();
     QVERIFY(pane && !pane->isVisible());
+    pane->resize(10, 40);
     pane->show();
-    QCOMPARE(pane->geometry().bottomRight(), area.rect().bottomRight());
+    QCOMPARE(pane->geometry(), QRect(0, 160, 300, 40));
+    area.resize(260, 300);
+    QCOMPARE(pane->geometry(), QRect(0, 260, 260, 40));
 }
 
 QTEST_MAIN(TestStylableBases)
