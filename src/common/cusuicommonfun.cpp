@@ -35,9 +35,9 @@ QObject *CusUiCommonFun::topParentObj(QObject *object)
 
 QWidget *CusUiCommonFun::topParentWid(QWidget *widget)
 {
-    // A QWidget's parent is a widget or null, whatever parent()'s type says.
-    while (widget && widget->parentWidget())
-        widget = widget->parentWidget();
+    // Not parentWidget(): QObject::setParent() may have given the widget any object.
+    while (auto *parent = widget ? qobject_cast<QWidget *>(widget->parent()) : nullptr)
+        widget = parent;
     return widget;
 }
 

@@ -65,7 +65,7 @@ public:
 
     /// The bounding rectangle of \a text, in pixels, widened by the focus frame that the
     /// application's style puts on both sides of a text on \a widget (may be null). An empty text
-    /// has width 0 and the height of a line.
+    /// gives what \a metrics say of it, with width 0.
     static QRect textBoundingRectUi(const QString &text, const QFontMetrics &metrics,
                                     const QWidget *widget);
 
@@ -99,7 +99,7 @@ VELLUM_EXPORT int judgeWindowOutBounds(QWidget *widget, const QRect &bounds);
 
 /// A rectangle of \a widget's size at its pos() mapped from \a widget to \a ancestor. The position
 /// counts twice for a direct child: callers rely on it. A null rectangle where one is null or
-/// \a ancestor is none of \a widget's ancestors in its window.
+/// \a ancestor is neither \a widget nor one of its parents.
 VELLUM_EXPORT QRect getWidgetGeometry(QWidget *widget, QWidget *ancestor);
 
 /// \a text with line feeds, so that its lines are at most \a width pixels wide.
@@ -114,8 +114,8 @@ VELLUM_EXPORT QString warpString(const QFontMetrics &metrics, const QString &tex
 
 /// A QR code of \a text (UTF-8, error correction level medium) with a border of one module, black
 /// on white, stretched to \a size pixels. A null pixmap where the text is too long for a code
-/// (2,331 bytes, some more in capitals or digits alone), or \a size is empty or above 64
-/// megapixels.
+/// (2,331 bytes, some more in capitals or digits alone), or \a size is empty, above 64 megapixels
+/// or above 32,767 pixels on a side. The text ends at its first null character.
 VELLUM_EXPORT QPixmap generateQRCode(const QString &text, const QSize &size);
 
 /// Clears the widget's dynamic property "Invalid" whenever its text changes, and makes the style

@@ -1,12 +1,13 @@
 #include "common/cusscrollhoverpane.h"
 #include "common/cusuicommonfun.h"
 
+#include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSplitter>
 
-#include <limits>
+#include <optional>
 
 namespace {
 
@@ -14,10 +15,9 @@ constexpr int kSideMargin = 50;
 constexpr int kEndMargin = 130;
 constexpr int kFirstPane = 1;
 
-int clampedToInt(qint64 value)
+int paneSize(qint64 size)
 {
-    return int(
-        qBound<qint64>(std::numeric_limits<int>::min(), value, std::numeric_limits<int>::max()));
+    return int(qBound<qint64>(0, size, QWIDGETSIZE_MAX));
 }
 
 QScrollArea *nearestScrollArea(const QWidget *widget)
@@ -45,7 +45,7 @@ QRect visibleRect(const QScrollArea *area)
     const QList<CusScrollHoverPane *> panes = area->findChildren<CusScrollHoverPane *>();
     for (const CusScrollHoverPane *pane : panes) {
         // A pane of another scroll area inside this one covers nothing of ours.
-        if (pane->isVisible() && !area->widget()->isAncestorOf(pane)) {
+        if (pane->isVisible() && nearestScrollArea(pane) == area) {
             rect.setHeight(rect.height() - pane->height());
             break;
         }
@@ -53,31 +53,42 @@ QRect visibleRect(const QScrollArea *area)
     return rect;
 }
 
-/// The range of one axis, end exclusive.
+/// The range of one axis, end exclusive; in 64 bits, since a cursor may claim any place.
 struct Span
 {
-    int begin;
-    int end;
+    qint64 begin;
+    qint64 end;
 
-    int length() const { return end - begin; }
+    qint64 length() const { return end - begin; }
 };
 
-/// How far the content is to be scrolled along one axis; \a current where the focus is seen
-/// already.
-int scrolledTo(Span focus, Span visible, int viewportLength, int current)
+/// How far the content is to be scrolled along one axis; nothing where the focus is seen already.
+std::optional<qint64> scrolledTo(Span focus, Span visible, int viewportLength)
 {
     if (focus.length() > visible.length())
         return focus.begin + (focus.length() - visible.length()) / 2;
     if (focus.end > visible.end)
         return focus.end - viewportLength;
-    return focus.begin < visible.begin ? focus.begin : current;
+    if (focus.begin < visible.begin)
+        return focus.begin;
+    return std::nullopt;
+}
+
+void setClamped(QScrollBar *bar, qint64 value)
+{
+    bar->setValue(int(qBound<qint64>(bar->minimum(), value, bar->maximum())));
 }
 
 } // namespace
 
 QRect getWidgetGeometry(QWidget *widget, QWidget *ancestor)
 {
-    if (!widget || !ancestor || !ancestor->isAncestorOf(widget))
+    // Not isAncestorOf(), which ends at a window: a dialog's widgets have places in its parent,
+    // too.
+    const QWidget *parent = widget;
+    while (parent && parent != ancestor)
+        parent = parent->parentWidget();
+    if (!parent)
         return {};
     return {widget->mapTo(ancestor, widget->pos()), widget->size()};
 }
@@ -111,29 +122,33 @@ void adjustHorSplitterSize(QWidget *widget, QSplitter *splitter, int side, int s
     const QList<int> sizes = splitter->sizes();
     if (sizes.size() == 2 && sizes.first() == first)
         return;
-    splitter->setSizes({clampedToInt(first), clampedToInt(available - first)});
+    splitter->setSizes({paneSize(first), paneSize(available - first)});
 }
 
 void ensureWidgetVisible(QWidget *widget)
 {
     QScrollArea *area = widget ? nearestScrollArea(widget) : nullptr;
     const QWidget *content = area ? area->widget() : nullptr;
-    if (!content || !content->isAncestorOf(widget) || content == widget)
+    if (!content || !content->isAncestorOf(widget))
         return;
     const QRect visible = visibleRect(area);
-    QRect focus = focusRect(widget, content);
+    const QRect focus = focusRect(widget, content);
     if (visible.contains(focus))
         return;
-    focus.adjust(-kSideMargin, -kEndMargin, kSideMargin, kEndMargin);
 
-    QScrollBar *horizontal = area->horizontalScrollBar();
-    const bool reversed = area->isRightToLeft();
-    const int left =
-        scrolledTo({focus.left(), focus.right() + 1}, {visible.left(), visible.right() + 1},
-                   area->viewport()->width(), visible.left());
-    // In a right-to-left layout the bar counts from the content's right end.
-    horizontal->setValue(reversed ? horizontal->maximum() - left : left);
-    area->verticalScrollBar()->setValue(scrolledTo({focus.top(), focus.bottom() + 1},
-                                                   {visible.top(), visible.bottom() + 1},
-                                                   area->viewport()->height(), visible.top()));
+    const auto across =
+        scrolledTo({qint64(focus.left()) - kSideMargin, qint64(focus.right()) + 1 + kSideMargin},
+                   {visible.left(), qint64(visible.right()) + 1}, area->viewport()->width());
+    const auto down =
+        scrolledTo({qint64(focus.top()) - kEndMargin, qint64(focus.bottom()) + 1 + kEndMargin},
+                   {visible.top(), qint64(visible.bottom()) + 1}, area->viewport()->height());
+    // A client that follows the scrolling may delete the area.
+    const QPointer<QScrollBar> vertical = area->verticalScrollBar();
+    if (across) {
+        QScrollBar *horizontal = area->horizontalScrollBar();
+        // In a right-to-left layout the bar counts from the content's right end.
+        setClamped(horizontal, area->isRightToLeft() ? horizontal->maximum() - *across : *across);
+    }
+    if (down && vertical)
+        setClamped(vertical, *down);
 }
