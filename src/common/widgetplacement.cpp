@@ -29,12 +29,20 @@ QScrollArea *nearestScrollArea(const QWidget *widget)
     return nullptr;
 }
 
+/// A cursor may claim any place; within a widget's largest size nothing overflows.
+QRect keptInReach(const QRect &rect)
+{
+    const auto kept = [](int edge) { return qBound(-QWIDGETSIZE_MAX, edge, QWIDGETSIZE_MAX); };
+    return {QPoint(kept(rect.left()), kept(rect.top())),
+            QPoint(kept(rect.right()), kept(rect.bottom()))};
+}
+
 /// The text cursor of an input, else the whole widget, in the coordinates of \a content.
 QRect focusRect(const QWidget *widget, const QWidget *content)
 {
     const QVariant cursor = widget->inputMethodQuery(Qt::ImCursorRectangle);
     const QRect rect = cursor != widget->QWidget::inputMethodQuery(Qt::ImCursorRectangle)
-        ? cursor.toRect()
+        ? keptInReach(cursor.toRect())
         : widget->rect();
     return {widget->mapTo(content, rect.topLeft()), rect.size()};
 }
@@ -53,17 +61,17 @@ QRect visibleRect(const QScrollArea *area)
     return rect;
 }
 
-/// The range of one axis, end exclusive; in 64 bits, since a cursor may claim any place.
+/// The range of one axis, end exclusive.
 struct Span
 {
-    qint64 begin;
-    qint64 end;
+    int begin;
+    int end;
 
-    qint64 length() const { return end - begin; }
+    int length() const { return end - begin; }
 };
 
 /// How far the content is to be scrolled along one axis; nothing where the focus is seen already.
-std::optional<qint64> scrolledTo(Span focus, Span visible, int viewportLength)
+std::optional<int> scrolledTo(Span focus, Span visible, int viewportLength)
 {
     if (focus.length() > visible.length())
         return focus.begin + (focus.length() - visible.length()) / 2;
@@ -72,11 +80,6 @@ std::optional<qint64> scrolledTo(Span focus, Span visible, int viewportLength)
     if (focus.begin < visible.begin)
         return focus.begin;
     return std::nullopt;
-}
-
-void setClamped(QScrollBar *bar, qint64 value)
-{
-    bar->setValue(int(qBound<qint64>(bar->minimum(), value, bar->maximum())));
 }
 
 } // namespace
@@ -137,18 +140,17 @@ void ensureWidgetVisible(QWidget *widget)
         return;
 
     const auto across =
-        scrolledTo({qint64(focus.left()) - kSideMargin, qint64(focus.right()) + 1 + kSideMargin},
-                   {visible.left(), qint64(visible.right()) + 1}, area->viewport()->width());
-    const auto down =
-        scrolledTo({qint64(focus.top()) - kEndMargin, qint64(focus.bottom()) + 1 + kEndMargin},
-                   {visible.top(), qint64(visible.bottom()) + 1}, area->viewport()->height());
+        scrolledTo({focus.left() - kSideMargin, focus.right() + 1 + kSideMargin},
+                   {visible.left(), visible.right() + 1}, area->viewport()->width());
+    const auto down = scrolledTo({focus.top() - kEndMargin, focus.bottom() + 1 + kEndMargin},
+                                 {visible.top(), visible.bottom() + 1}, area->viewport()->height());
     // A client that follows the scrolling may delete the area.
     const QPointer<QScrollBar> vertical = area->verticalScrollBar();
     if (across) {
         QScrollBar *horizontal = area->horizontalScrollBar();
         // In a right-to-left layout the bar counts from the content's right end.
-        setClamped(horizontal, area->isRightToLeft() ? horizontal->maximum() - *across : *across);
+        horizontal->setValue(area->isRightToLeft() ? horizontal->maximum() - *across : *across);
     }
     if (down && vertical)
-        setClamped(vertical, *down);
+        vertical->setValue(*down);
 }
