@@ -24,7 +24,7 @@ class VELLUM_EXPORT CusLabel : public QLabel
 
 public:
     /// What becomes of a text that is wider than the label.
-    enum LableType
+    enum LableType : int
     {
         LABEL_TYPE_DEFAULT = 0,       ///< all text is set and the label clips
         LABEL_TYPE_LINE_BREAK = 1,    ///< a line feed is put in wherever a line is full

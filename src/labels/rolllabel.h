@@ -13,7 +13,7 @@ class VELLUM_EXPORT RollLabel : public QLabel
     Q_OBJECT
 
 public:
-    enum RollLabelType
+    enum RollLabelType : int
     {
         Roll_Auto = 0,  ///< rolls whenever it is visible
         Roll_Manual = 1 ///< rolls from startRoll() to stopRoll()
