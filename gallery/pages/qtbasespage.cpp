@@ -180,16 +180,13 @@ QLayout *barsAndMenus()
     auto *menus = new QMenuBar;
     for (const char *name : {"View", "Playback"})
         menus->addMenu(QString::fromLatin1(name))->addAction(QStringLiteral("Close"));
-    menus->setFixedWidth(190);
+    menus->setFixedWidth(170);
     auto *tools = new QToolBar;
-    for (const char *icon : {"record", "snapshot", "microphone", "maximize", "settings"}) {
-        tools->addAction(QIcon(QStringLiteral(":/Resource/icons/%1.svg").arg(QLatin1String(icon))),
-                         QString());
-    }
-    tools->insertSeparator(tools->actions().at(2));
+    for (const char *name : {"Live", "Replay", "Map"})
+        tools->addAction(QString::fromLatin1(name));
+    tools->insertSeparator(tools->actions().at(1));
     tools->actions().constFirst()->setCheckable(true);
     tools->actions().constFirst()->setChecked(true);
-    tools->setIconSize(QSize(20, 20));
     auto *line = new QHBoxLayout;
     line->setSpacing(24);
     const QVector<QWidget *> widgets = {slider(40), disabled(slider(70)), progress, menus, tools};
