@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr qint64 kMaxFileSize = 64 * 1024 * 1024;
+constexpr qint64 kMaxFileSize = qint64(64) * 1024 * 1024;
 
 enum class Walk
 {

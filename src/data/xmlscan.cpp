@@ -160,16 +160,28 @@ private:
     qint64 m_escapeCost = 0;
 };
 
+/// The encoding that the XML declaration names, in lower case without separators. Like Qt's reader
+/// it takes what is quoted first behind the first "encoding", or a declaration could show this scan
+/// another name than the reader.
 QByteArray declaredEncoding(const QByteArray &bytes)
 {
     if (!bytes.startsWith("<?xml"))
         return QByteArray();
-    const QByteArray declaration = bytes.left(bytes.indexOf("?>"));
-    const int name = declaration.indexOf("encoding");
-    if (name < 0)
+    const QByteArray declaration = bytes.left(bytes.indexOf('>'));
+    int pos = declaration.indexOf("encoding");
+    if (pos < 0)
         return QByteArray();
-    const int equals = declaration.indexOf('=', name);
-    return declaration.mid(equals + 1).trimmed().mid(1).toLower();
+    while (pos < declaration.size() && declaration.at(pos) != '"' && declaration.at(pos) != '\'')
+        ++pos;
+    QByteArray encoding;
+    for (++pos; pos < declaration.size(); ++pos) {
+        const char c = declaration.at(pos);
+        if (c == '"' || c == '\'')
+            break;
+        if (c != '-' && c != '_')
+            encoding.append(c);
+    }
+    return encoding.toLower();
 }
 
 } // namespace
@@ -178,8 +190,9 @@ namespace vellum {
 
 bool hasAsciiEncoding(const QByteArray &bytes)
 {
-    static const std::array<const char *, 9> supersets = {
-        "utf-8", "utf8", "us-ascii", "ascii", "iso-8859-", "windows-", "koi8-", "gb", "euc-"};
+    static const std::array<const char *, 11> supersets = {
+        "utf8",  "usascii", "ascii", "iso8859", "latin1",   "windows125",
+        "cp125", "koi8",    "gb",    "euc",     "macintosh"};
     const QByteArray encoding = declaredEncoding(bytes);
     return encoding.isEmpty()
         || std::any_of(supersets.begin(), supersets.end(),
