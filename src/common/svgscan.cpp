@@ -25,8 +25,11 @@ constexpr int kMaxStops = 512;
 constexpr int kMaxGradientLinks = 8192;
 constexpr qint64 kMaxRuleMatches = qint64(1) << 23;
 constexpr qint64 kMaxPictureArea = qint64(1) << 24;
-/// Bytes of the file per dash, the dash as a share of the image; at this value about a second.
+/// Bytes of dashed outlines per dash, the dash as a share of the image; at this value about a
+/// second.
 constexpr double kMaxDashCost = 1e7;
+/// What an outline without points counts, as that of a rectangle.
+constexpr int kPlainOutline = 32;
 
 bool isOrdinary(const QByteArray &svg)
 {
@@ -62,6 +65,9 @@ private:
     };
 
     bool startElement();
+    int enterGroup(const QString &id);
+    void measure(const QXmlStreamAttributes &attributes);
+    void measureDashes(const QString &name, const QXmlStreamAttributes &attributes);
     bool gradient(const QString &name, const QString &link);
     bool picture(const QString &link);
     int groupOf(const QString &id);
@@ -80,6 +86,10 @@ private:
     qint64 m_pictureArea = 0;
     bool m_inStyle = false;
     double m_extent = 0.0;
+    int m_dashedDepth = 0;
+    bool m_allDashed = false;
+    qint64 m_outline = 0;
+    qint64 m_dashedOutline = 0;
 };
 
 bool SvgScan::isRenderable()
@@ -92,10 +102,12 @@ bool SvgScan::isRenderable()
                 return false;
         } else if (token == QXmlStreamReader::EndElement) {
             m_path.removeLast();
+            m_dashedDepth = std::max(0, m_dashedDepth - 1);
             m_inStyle = false;
         } else if (token == QXmlStreamReader::Characters && m_inStyle) {
             m_rules +=
                 m_reader.text().count(QLatin1Char('{')) + m_reader.text().count(QLatin1Char(','));
+            m_allDashed = m_allDashed || m_reader.text().contains(QLatin1String("dasharray"));
         } else if (token == QXmlStreamReader::ProcessingInstruction
                    && m_reader.processingInstructionTarget() == QLatin1String("xml-stylesheet")) {
             return false;
@@ -110,19 +122,25 @@ bool SvgScan::startElement()
 {
     const QString name = m_reader.name().toString();
     const QXmlStreamAttributes attributes = m_reader.attributes();
+    if (m_elements++ == 0)
+        measure(attributes);
+    measureDashes(name, attributes);
+    const int group = enterGroup(attributes.value(QLatin1String("id")).toString());
+    m_inStyle = name == QLatin1String("style");
     QString link = attributes.value(QLatin1String("xlink:href")).toString();
+    // The renderer knows no other name for the link of a picture.
+    if (name == QLatin1String("image"))
+        return picture(link.trimmed());
     if (link.isEmpty())
         link = attributes.value(QLatin1String("href")).toString();
-    const QString id = attributes.value(QLatin1String("id")).toString();
+    if (name == QLatin1String("use"))
+        m_groups[group].uses.append(link.mid(1));
+    return gradient(name, link);
+}
 
-    if (m_elements++ == 0) {
-        const QStringList box = attributes.value(QLatin1String("viewBox"))
-                                    .toString()
-                                    .replace(QLatin1Char(','), QLatin1Char(' '))
-                                    .split(QLatin1Char(' '), Qt::SkipEmptyParts);
-        if (box.size() == 4)
-            m_extent = std::max(box.at(2).toDouble(), box.at(3).toDouble());
-    }
+/// The group that an element with \a id, which may be empty, belongs to.
+int SvgScan::enterGroup(const QString &id)
+{
     int group = m_path.last();
     if (!id.isEmpty()) {
         const int part = groupOf(id);
@@ -133,12 +151,32 @@ bool SvgScan::startElement()
     }
     ++m_groups[group].elements;
     m_path.append(group);
-    m_inStyle = name == QLatin1String("style");
-    if (name == QLatin1String("use"))
-        m_groups[group].uses.append(link.mid(1));
-    else if (name == QLatin1String("image"))
-        return picture(link);
-    return gradient(name, link);
+    return group;
+}
+
+void SvgScan::measure(const QXmlStreamAttributes &attributes)
+{
+    const QStringList box = attributes.value(QLatin1String("viewBox"))
+                                .toString()
+                                .replace(QLatin1Char(','), QLatin1Char(' '))
+                                .split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    if (box.size() == 4)
+        m_extent = std::max(box.at(2).toDouble(), box.at(3).toDouble());
+}
+
+/// Sums up the outlines, and those that are dashed by an attribute of their own or of an ancestor.
+/// A style block may dash any, and so may a dashed reference.
+void SvgScan::measureDashes(const QString &name, const QXmlStreamAttributes &attributes)
+{
+    const bool dashed = attributes.hasAttribute(QLatin1String("stroke-dasharray"))
+        || attributes.value(QLatin1String("style")).contains(QLatin1String("dasharray"));
+    if (dashed || m_dashedDepth > 0)
+        ++m_dashedDepth;
+    m_allDashed = m_allDashed || (m_dashedDepth > 0 && name == QLatin1String("use"));
+    const qint64 outline = kPlainOutline + attributes.value(QLatin1String("d")).size()
+        + attributes.value(QLatin1String("points")).size();
+    m_outline += outline;
+    m_dashedOutline += m_dashedDepth > 0 ? outline : 0;
 }
 
 bool SvgScan::gradient(const QString &name, const QString &link)
@@ -157,8 +195,9 @@ bool SvgScan::picture(const QString &link)
 {
     if (link.isEmpty())
         return true;
-    const int data = link.indexOf(QLatin1String("base64,"));
-    if (!link.startsWith(QLatin1String("data:image/")) || data < 0)
+    // The last mark counts for the renderer.
+    const int data = link.lastIndexOf(QLatin1String("base64,"));
+    if (!link.startsWith(QLatin1String("data:")) || data < 0)
         return false;
     QByteArray bytes = QByteArray::fromBase64(link.mid(data + 7).toLatin1());
     QBuffer buffer(&bytes);
@@ -190,7 +229,7 @@ bool SvgScan::weigh(int index, int depth)
     if (group.weight >= 0)
         return true;
     group.open = true;
-    QVector<int> drawn = group.parts.values().toVector();
+    QVector<int> drawn(group.parts.cbegin(), group.parts.cend());
     for (const QString &id : qAsConst(group.uses)) {
         const auto target = m_ids.constFind(id);
         if (target != m_ids.cend())
@@ -221,14 +260,14 @@ bool SvgScan::dashesAreCoarse() const
     auto match = pattern.globalMatch(QString::fromUtf8(m_svg));
     while (match.hasNext()) {
         double sum = 0.0;
-        const QString lengths = match.next().captured(1);
-        for (const QString &length : lengths.split(separator, Qt::SkipEmptyParts))
+        const QStringList lengths = match.next().captured(1).split(separator, Qt::SkipEmptyParts);
+        for (const QString &length : lengths)
             sum += length.toDouble();
         if (sum > 0.0)
             finest = std::min(finest, sum);
     }
     const double extent = m_extent > 0.0 ? m_extent : 100.0;
-    return m_svg.size() * extent / finest <= kMaxDashCost;
+    return double(m_allDashed ? m_outline : m_dashedOutline) * extent / finest <= kMaxDashCost;
 }
 
 } // namespace
