@@ -61,10 +61,18 @@ QString opacityText(const QColor &color)
     return QString::number(double(float(color.alpha() / 255.0)), 'f', 1);
 }
 
+/// Whether \a css would end a CDATA section, a comment or an instruction that holds it. The colons
+/// that the rules lose can join such an end, and what follows would become markup.
+bool endsItsNode(const QString &css)
+{
+    return css.contains(QLatin1String("]]>")) || css.contains(QLatin1String("-->"))
+        || css.contains(QLatin1String("?>"));
+}
+
 QString firstValue(const QList<CSSItem> &rules, const QString &property)
 {
     for (const CSSItem &rule : rules) {
-        const QString value = rule.attributes.value(property);
+        QString value = rule.attributes.value(property);
         if (!value.isEmpty())
             return value;
     }
@@ -86,7 +94,7 @@ struct CusSvgImage::Private
     std::optional<bool> renderable;
 
     void discoverColors();
-    bool applyTint(const QColor &color);
+    bool applyTint(const QColor &tint);
     QString tintedCss(const QColor &color);
     QByteArray text();
 };
@@ -111,14 +119,19 @@ void CusSvgImage::Private::discoverColors()
         attrDefaultColor = authoredColor(values.at(0), values.at(1));
 }
 
-bool CusSvgImage::Private::applyTint(const QColor &color)
+bool CusSvgImage::Private::applyTint(const QColor &tint)
 {
+    // Invalid colors may differ from each other and have an alpha; here they are all the same.
+    const QColor color = tint.isValid() ? tint : QColor();
     if (color == fillColor || !document)
         return false;
     discoverColors();
     fillColor = color;
     if (styleDefaultColor) {
-        document->setElementValue(styleTag(), tintedCss(color));
+        const QString css = tintedCss(color);
+        if (endsItsNode(css))
+            renderable = false;
+        document->setElementValue(styleTag(), css);
         if (attrDefaultColor)
             return true;
     }
@@ -175,11 +188,10 @@ CusSvgImage::~CusSvgImage() = default;
 
 bool CusSvgImage::load(const QString &file)
 {
-    const QString name = file;
     *d = Private();
-    d->svgFile = name;
-    if (!name.isEmpty())
-        d->document = std::make_shared<XmlFile>(name);
+    d->svgFile = file;
+    if (!file.isEmpty())
+        d->document = std::make_shared<XmlFile>(file);
     return true;
 }
 
@@ -203,7 +215,8 @@ void CusSvgImage::paintSvgImage(QPainter *painter, const QRect &rect) const
         if (!text.isEmpty())
             d->renderer->load(text);
     }
-    if (!d->renderer || !painter || !painter->isActive())
+    // For an empty rectangle the renderer would take the whole device.
+    if (!d->renderer || rect.isEmpty() || !painter || !painter->isActive())
         return;
     painter->setRenderHints(QPainter::SmoothPixmapTransform | QPainter::Antialiasing);
     d->renderer->render(painter, QRectF(rect));
@@ -230,5 +243,6 @@ QPixmap CusSvgImage::svgToPixmap(const QString &file, const QSize &size, const Q
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     image.paintSvgImage(&painter, QRect(QPoint(0, 0), size));
+    painter.end();
     return pixmap;
 }

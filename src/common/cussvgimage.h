@@ -45,7 +45,8 @@ public:
     /// text, the file keeps its own colours.
     QByteArray getFillColorByteArray(const QColor &color) const;
 
-    /// Draws the image into \a rect, without keeping its aspect ratio. The first call after a
+    /// Draws the image into \a rect, without keeping its aspect ratio, and leaves \a painter with
+    /// antialiasing and smooth pixmaps on. An empty \a rect draws nothing. The first call after a
     /// change builds the renderer, also if \a painter is null.
     void paintSvgImage(QPainter *painter, const QRect &rect) const;
 
