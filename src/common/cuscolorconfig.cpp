@@ -90,7 +90,9 @@ CusColorConfig::~CusColorConfig() = default;
 QColor CusColorConfig::getColor(const QString &key, QColor defaultColor) const
 {
     const QJsonValue value = d->given(key);
-    return value.isUndefined() ? defaultColor : QColor(value.toString());
+    if (value.isUndefined())
+        return defaultColor;
+    return QColor(value.toString());
 }
 
 QStringList CusColorConfig::getColorList(const QString &key) const
