@@ -91,9 +91,10 @@ void furtherState(benchmark::State &state)
 void tintFiles(benchmark::State &state)
 {
     const QColor color(0x42, 0x9e, 0xf6);
+    const IconFolder &folder = icons();
     for (auto _ : state) {
         for (int i = 0; i < int(state.range(0)); ++i) {
-            const CusSvgImage image(icons().fileName(i));
+            const CusSvgImage image(folder.fileName(i));
             benchmark::DoNotOptimize(image.getFillColorByteArray(color).size());
         }
     }
