@@ -2,10 +2,11 @@
 
 #include "gallerypage.h"
 
+#include <Vellum/CusScrollArea>
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
-#include <QScrollArea>
 #include <QStackedWidget>
 
 namespace {
@@ -14,7 +15,7 @@ constexpr int kNavigationWidth = 208;
 
 QWidget *inScrollArea(QWidget *page)
 {
-    auto *area = new QScrollArea;
+    auto *area = new CusScrollArea;
     area->setObjectName(QStringLiteral("gallery_pageArea"));
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
@@ -80,6 +81,19 @@ bool GalleryWindow::showPage(const QString &name)
     return false;
 }
 
+int GalleryWindow::pageHeight() const
+{
+    const auto *area = qobject_cast<const QScrollArea *>(d->stack->currentWidget());
+    if (!area || !area->widget())
+        return 0;
+    const QWidget *page = area->widget();
+    const int width = area->viewport()->width();
+    const int layoutHeight = page->layout() && page->layout()->hasHeightForWidth()
+        ? page->layout()->totalHeightForWidth(width)
+        : 0;
+    return qMax(layoutHeight, page->minimumSizeHint().height());
+}
+
 void GalleryWindow::rebuildPages()
 {
     for (int row = 0; row < d->pages.size(); ++row) {
@@ -96,7 +110,7 @@ void GalleryWindow::showRow(int row)
 {
     if (row < 0)
         return;
-    if (!qobject_cast<QScrollArea *>(d->stack->widget(row))) {
+    if (!qobject_cast<CusScrollArea *>(d->stack->widget(row))) {
         QWidget *placeholder = d->stack->widget(row);
         d->stack->insertWidget(row, inScrollArea(d->pages.at(row).create()));
         d->stack->removeWidget(placeholder);

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QWidget>
+#include <Vellum/CusWidget>
 
 #include <memory>
 
 /// The gallery's window: a list of the pages at the left, the chosen page at the right.
-class GalleryWindow : public QWidget
+class GalleryWindow : public CusWidget
 {
     Q_OBJECT
 
@@ -20,6 +20,8 @@ public:
     /// Shows the page of that name, compared without case; an unknown name changes nothing and
     /// gives false.
     bool showPage(const QString &name);
+    /// The height in pixels at which the present page needs no scrolling.
+    int pageHeight() const;
 
 public Q_SLOTS:
     /// Builds every page again, after the colours or the style sheet changed.

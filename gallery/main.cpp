@@ -12,6 +12,7 @@
 namespace {
 
 constexpr QSize kWindowSize(1280, 860);
+constexpr int kMaxPictureHeight = 4000;
 constexpr int kSettleTime = 400;
 
 /// The style sheet of the starter theme, and what only the gallery's own frame needs.
@@ -47,7 +48,13 @@ int saveScreenshots(GalleryWindow *window, const GalleryOptions &options)
         options.page.isEmpty() ? window->pageNames() : QStringList{options.page};
     for (const QString &name : names) {
         window->showPage(name);
+        window->resize(kWindowSize);
         settle();
+        const int height = qBound(kWindowSize.height(), window->pageHeight(), kMaxPictureHeight);
+        if (height > window->height()) {
+            window->resize(kWindowSize.width(), height);
+            settle();
+        }
         const QString file = folder.filePath(
             name.toLower().replace(QLatin1Char(' '), QLatin1Char('-')) + QStringLiteral(".png"));
         if (!window->grab().save(file)) {
