@@ -164,8 +164,6 @@ void TestXmlFile::refusesWhatWouldExhaustAReader_data()
             + QByteArray("&x;").repeated(50000) + "</a>");
     row("huge document type", false,
         "<!DOCTYPE a [" + QByteArray("<!ENTITY x 'y'>").repeated(1000) + "]><a/>");
-    row("deep content model", false,
-        "<!DOCTYPE a [<!ELEMENT a " + QByteArray(7000, '(') + ">]><a/>");
     row("attributes", false, "<a" + attributes + "/>");
     row("references in one text", false, "<a>" + QByteArray("&amp;").repeated(100000) + "</a>");
     row("more than 64 MiB", false, "<a>" + QByteArray(64 * 1024 * 1024, ' ') + "</a>");
