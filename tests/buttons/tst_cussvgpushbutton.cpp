@@ -80,10 +80,8 @@ private Q_SLOTS:
     void newNormalPictureReachesTheStatesThatRecolourIt();
     void placesIconAndBackground_data();
     void placesIconAndBackground();
-    void textAndIconStandSideBySide_data();
     void textAndIconStandSideBySide();
     void textThatDoesNotFitIsShortened();
-    void contentNeedsRoom();
     void adjustSizeFixesTheSize_data();
     void adjustSizeFixesTheSize();
     void anyNumbersAreSafe_data();
@@ -165,20 +163,21 @@ void TestCusSvgPushButton::showsTheLookOfTheWinningState_data()
     QTest::addColumn<QStyle::State>("state");
     QTest::addColumn<QString>("asWidget");
     QTest::addColumn<QString>("asStamp");
-    const QString normal = QStringLiteral("Normal"), hover = QStringLiteral("Hover"),
-                  pressed = QStringLiteral("Pressed"), checked = QStringLiteral("Checked"),
-                  selected = QStringLiteral("Selected"), disable = QStringLiteral("Disable");
     const QStyle::State over = QStyle::State_MouseOver, sunken = QStyle::State_Sunken,
                         on = QStyle::State_On, picked = QStyle::State_Selected;
-    QTest::newRow("normal") << kEnabled << normal << normal;
-    QTest::newRow("hovered") << (kEnabled | over) << hover << hover;
-    QTest::newRow("pressed under the cursor") << (kEnabled | over | sunken) << pressed << pressed;
-    QTest::newRow("checked") << (kEnabled | on) << checked << checked;
-    QTest::newRow("checked and hovered") << (kEnabled | on | over) << checked << hover;
-    QTest::newRow("checked and pressed") << (kEnabled | on | sunken) << checked << pressed;
-    QTest::newRow("selected") << (kEnabled | picked) << selected << selected;
-    QTest::newRow("selected and checked") << (kEnabled | picked | on) << selected << checked;
-    QTest::newRow("all but enabled") << (on | over | sunken | picked) << disable << disable;
+    const auto row = [](const char *name, QStyle::State state, const char *widget,
+                        const char *inCell) {
+        QTest::newRow(name) << state << QString::fromLatin1(widget) << QString::fromLatin1(inCell);
+    };
+    row("at rest", kEnabled, "Normal", "Normal");
+    row("hovered", kEnabled | over, "Hover", "Hover");
+    row("pressed under the cursor", kEnabled | over | sunken, "Pressed", "Pressed");
+    row("checked", kEnabled | on, "Checked", "Checked");
+    row("checked and hovered", kEnabled | on | over, "Checked", "Hover");
+    row("checked and pressed", kEnabled | on | sunken, "Checked", "Pressed");
+    row("selected", kEnabled | picked, "Selected", "Selected");
+    row("selected and checked", kEnabled | picked | on, "Selected", "Checked");
+    row("all but enabled", on | over | sunken | picked, "Disable", "Disable");
 }
 
 void TestCusSvgPushButton::showsTheLookOfTheWinningState()
@@ -266,15 +265,15 @@ void TestCusSvgPushButton::placesIconAndBackground_data()
     QTest::addColumn<QPoint>("iconInColumn");
     QTest::addColumn<QPoint>("background");
     // The button lies at 10, 20. Centred across its axis an icon doesn't follow that offset.
-    QTest::newRow("left") << Button::Flow_Left << QPoint(13, 19) << QPoint(13, 43)
-                          << QPoint(13, 45);
-    QTest::newRow("right") << Button::Flow_Right << QPoint(89, 19) << QPoint(89, 43)
-                           << QPoint(89, 45);
-    QTest::newRow("top") << Button::Flow_Top << QPoint(51, 24) << QPoint(38, 24) << QPoint(52, 24);
-    QTest::newRow("bottom") << Button::Flow_Bottom << QPoint(51, 62) << QPoint(38, 62)
-                            << QPoint(52, 62);
-    QTest::newRow("centre") << Button::Flow_Center << QPoint(51, 19) << QPoint(38, 43)
-                            << QPoint(52, 45);
+    const auto row = [](const char *name, Button::BtnFlow flow, QPoint inRow, QPoint inColumn,
+                        QPoint background) {
+        QTest::newRow(name) << flow << inRow << inColumn << background;
+    };
+    row("left", Button::Flow_Left, {13, 19}, {13, 43}, {13, 45});
+    row("right", Button::Flow_Right, {89, 19}, {89, 43}, {89, 45});
+    row("top", Button::Flow_Top, {51, 24}, {38, 24}, {52, 24});
+    row("bottom", Button::Flow_Bottom, {51, 62}, {38, 62}, {52, 62});
+    row("centre", Button::Flow_Center, {51, 19}, {38, 43}, {52, 45});
 }
 
 void TestCusSvgPushButton::placesIconAndBackground()
@@ -306,49 +305,32 @@ void TestCusSvgPushButton::placesIconAndBackground()
     QCOMPARE(painted(), QRect(background, size));
 }
 
-void TestCusSvgPushButton::textAndIconStandSideBySide_data()
-{
-    QTest::addColumn<Button::BtnTxtPos>("position");
-    QTest::newRow("left") << Button::Txt_Pos_Left;
-    QTest::newRow("right") << Button::Txt_Pos_Right;
-    QTest::newRow("top") << Button::Txt_Pos_Top;
-    QTest::newRow("bottom") << Button::Txt_Pos_Bottom;
-}
-
 void TestCusSvgPushButton::textAndIconStandSideBySide()
 {
-    QFETCH(Button::BtnTxtPos, position);
-    Button button;
-    button.setTxtPos(position);
-    button.setSvgTxtSpace(4);
-    button.setIcon(square(), QSize(12, 12), Qt::red);
     const QString text = QStringLiteral("HH");
-    const QRect bounds =
-        CusUiCommonFun::textBoundingRectUi(text, QFontMetrics(QGuiApplication::font()), &button);
-
-    const QImage image = stamp(&button, kEnabled, Button::DrawStype_Widget, text);
-    const QRect icon = TestKit::extentOf(image, Qt::red);
-    const QRect letters = TestKit::extentOf(image, kInk, 100);
+    const QSize icon(12, 12);
+    Button button;
+    button.setSvgTxtSpace(4);
+    button.setIcon(square(), icon, Qt::red);
+    const QSize bounds =
+        CusUiCommonFun::textBoundingRectUi(text, QFontMetrics(QGuiApplication::font()), &button)
+            .size();
     const int left = (kButtonSize.width() - bounds.width() - 4 - 12) / 2;
     const int top = (kButtonSize.height() - bounds.height() - 4 - 12) / 2;
-    const QPoint inMiddle((kButtonSize.width() - 12) / 2, (kButtonSize.height() - 12) / 2);
-    switch (position) {
-    case Button::Txt_Pos_Left:
-        QCOMPARE(icon, QRect(left + bounds.width() + 4, inMiddle.y(), 12, 12));
-        QVERIFY(letters.left() >= left && letters.right() < icon.left() - 4);
-        break;
-    case Button::Txt_Pos_Right:
-        QCOMPARE(icon, QRect(left, inMiddle.y(), 12, 12));
-        QVERIFY(letters.left() > icon.right() + 4);
-        break;
-    case Button::Txt_Pos_Top:
-        QCOMPARE(icon, QRect(inMiddle.x(), top + bounds.height() + 4, 12, 12));
-        QVERIFY(letters.top() >= top && letters.bottom() < icon.top() - 4);
-        break;
-    default:
-        QCOMPARE(icon, QRect(inMiddle.x(), top, 12, 12));
-        QVERIFY(letters.top() > icon.bottom() + 4);
-        break;
+    const QPoint textInColumn((kButtonSize.width() - bounds.width()) / 2, top);
+    const QPoint textInRow(left, (kButtonSize.height() - bounds.height()) / 2);
+    const QMap<Button::BtnTxtPos, QPair<QPoint, QPoint>> places{
+        {Button::Txt_Pos_Left, {{left + bounds.width() + 4, 24}, textInRow}},
+        {Button::Txt_Pos_Right, {{left, 24}, textInRow + QPoint(16, 0)}},
+        {Button::Txt_Pos_Top, {{44, top + bounds.height() + 4}, textInColumn}},
+        {Button::Txt_Pos_Bottom, {{44, top}, textInColumn + QPoint(0, 16)}},
+    };
+    for (auto it = places.begin(); it != places.end(); ++it) {
+        button.setTxtPos(it.key());
+        const QImage image = stamp(&button, kEnabled, Button::DrawStype_Widget, text);
+        QCOMPARE(TestKit::extentOf(image, Qt::red), QRect(it->first, icon));
+        const QRect letters = TestKit::extentOf(image, kInk, 100);
+        QVERIFY(!letters.isEmpty() && QRect(it->second, bounds).contains(letters));
     }
 }
 
@@ -366,7 +348,7 @@ void TestCusSvgPushButton::textThatDoesNotFitIsShortened()
         option.text = text;
         option.fontMetrics = QFontMetrics(painter.font());
         button.paintSvgBtn(&painter, option, nullptr, Button::DrawStype_Widget);
-        return recorder.texts.isEmpty() ? QString() : recorder.texts.constFirst().text;
+        return recorder.texts.join(QString());
     };
     const QString shortened = drawnText(kButtonSize);
     QVERIFY(shortened.endsWith(QChar(0x2026)) && text.startsWith(shortened.chopped(1)));
@@ -380,18 +362,13 @@ void TestCusSvgPushButton::textThatDoesNotFitIsShortened()
     button.setTxtPos(Button::Txt_Pos_Center);
     QCOMPARE(drawnText(kButtonSize), text);
     QCOMPARE(TestKit::countOf(stamp(&button, kEnabled), Qt::red), 0);
-}
-
-void TestCusSvgPushButton::contentNeedsRoom()
-{
-    Button button;
+    // Margins that leave no room take text and icon away, and nothing else.
+    button.setTxtPos(Button::Txt_Pos_Right);
     button.setSvgBGImage(square(QStringLiteral("#00ff00")));
-    button.setIcon(square(), QSize(16, 16), Qt::red);
     button.setLeftMargin(kButtonSize.width());
-    const QImage image =
-        stamp(&button, kEnabled, Button::DrawStype_Widget, QStringLiteral("Camera"));
-    QCOMPARE(TestKit::inkExtent(image), QRect(42, 22, 16, 16));
-    QCOMPARE(middle(image), QColor(Qt::green));
+    QCOMPARE(drawnText(kButtonSize), QString());
+    QCOMPARE(TestKit::inkExtent(stamp(&button, kEnabled)), QRect(42, 22, 16, 16));
+    QCOMPARE(middle(stamp(&button, kEnabled)), QColor(Qt::green));
 }
 
 void TestCusSvgPushButton::adjustSizeFixesTheSize_data()
@@ -403,16 +380,14 @@ void TestCusSvgPushButton::adjustSizeFixesTheSize_data()
     const QSize text = Button().fontMetrics().boundingRect(QStringLiteral("Recording")).size();
     const QSize icon(20, 40);
     const int w = text.width(), h = text.height();
-    const int smallest = std::numeric_limits<int>::min();
-    QTest::newRow("icon beside text")
-        << icon << Button::Txt_Pos_Right << 2 << QSize(w + 20 + 6 + 9, 40 + 9);
-    QTest::newRow("icon above text")
-        << icon << Button::Txt_Pos_Bottom << 2 << QSize(w + 9, h + 40 + 6 + 9);
-    QTest::newRow("no icon counts as -1, and the gap stays")
-        << QSize() << Button::Txt_Pos_Left << 0 << QSize(w - 1 + 6 + 5, h + 5);
-    QTest::newRow("an icon of no size has no gap")
-        << QSize(0, 0) << Button::Txt_Pos_Left << 0 << QSize(w + 5, h + 5);
-    QTest::newRow("negative margins") << icon << Button::Txt_Pos_Left << smallest << QSize(0, 0);
+    const auto row = [](const char *name, QSize iconSize, Button::BtnTxtPos position, int margin,
+                        QSize expected) {
+        QTest::newRow(name) << iconSize << position << margin << expected;
+    };
+    row("icon beside text", icon, Button::Txt_Pos_Right, 2, {w + 20 + 6 + 9, 40 + 9});
+    row("icon above text", icon, Button::Txt_Pos_Bottom, 2, {w + 9, h + 40 + 6 + 9});
+    row("no icon counts as -1", {}, Button::Txt_Pos_Left, 0, {w - 1 + 6 + 5, h + 5});
+    row("no gap to an empty icon", {0, 0}, Button::Txt_Pos_Left, 0, {w + 5, h + 5});
 }
 
 void TestCusSvgPushButton::adjustSizeFixesTheSize()
