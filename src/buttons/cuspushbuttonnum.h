@@ -26,8 +26,9 @@ class VELLUM_EXPORT CusPushButtonNum : public CusSvgPushButton
     Q_PROPERTY(SmallAreaType mSmallAreaType READ getSmallAreaType WRITE setSmallAreaType)
 
 public:
-    /// The badge's shape. AREA_TYPE_ANGLE has none: only its text is drawn.
-    enum SmallAreaType
+    /// The badge's shape. AREA_TYPE_ANGLE has none, nor has any other number: only the text is
+    /// drawn.
+    enum SmallAreaType : int
     {
         AREA_TYPE_CIRCLE = 0,
         AREA_TYPE_RECT = 1,

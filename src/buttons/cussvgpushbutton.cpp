@@ -558,7 +558,7 @@ void CusSvgPushButton::adjustSize()
 void CusSvgPushButton::paintSvgBtn(QPainter *painter, const QStyleOptionButton &option,
                                    QStyle *style, DrawStype drawType)
 {
-    if (!painter)
+    if (!painter || !painter->isActive())
         return;
     if (style) {
         QStyleOptionButton base = option;

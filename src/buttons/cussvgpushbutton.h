@@ -70,8 +70,8 @@ class VELLUM_EXPORT CusSvgPushButton : public QPushButton
     Q_PROPERTY(int svgTxtSpace READ getSvgTxtSpace WRITE setSvgTxtSpace)
 
 public:
-    /// Where the content sits in the button.
-    enum BtnFlow
+    /// Where the content sits in the button. Any other number, as a sheet may give it, is centred.
+    enum BtnFlow : int
     {
         Flow_Left = 0,
         Flow_Right = 1,
@@ -82,8 +82,8 @@ public:
     Q_ENUM(BtnFlow)
 
     /// Where the text stands relative to the icon. With Txt_Pos_Center the text has the whole
-    /// button and no icon is drawn.
-    enum BtnTxtPos
+    /// button and no icon is drawn. Any other number counts as Txt_Pos_Bottom.
+    enum BtnTxtPos : int
     {
         Txt_Pos_Left = 0,
         Txt_Pos_Right = 1,
@@ -96,7 +96,7 @@ public:
     /// Who draws the button. It decides which state wins when several hold: a widget shows
     /// selected, then checked, pressed and hovered; a stamp in a cell shows pressed, then hovered,
     /// checked and selected. Disabled wins in both.
-    enum DrawStype
+    enum DrawStype : int
     {
         DrawStype_Widget = 0,
         DrawStype_Delegate = 1
@@ -250,7 +250,7 @@ public:
     /// Draws the button into \a painter at \a option's rectangle, in \a option's state and with its
     /// text, so that an item delegate can stamp it into a cell. \a style draws the base, no text
     /// and no QIcon, below the layers; null leaves the base out. The text has the painter's pen and
-    /// font. Without a painter nothing happens.
+    /// font. Without an active painter nothing happens.
     void paintSvgBtn(QPainter *painter, const QStyleOptionButton &option, QStyle *style,
                      DrawStype drawType);
 

@@ -78,6 +78,15 @@ void placeInColumn(CusSvgPushButton::BtnFlow flow, const Box &content, qint64 sp
     b.y = a.y + a.h + space;
 }
 
+Box textBox(const QStyleOptionButton &option, const QWidget *widget)
+{
+    if (option.text.isEmpty())
+        return {};
+    const QSize size =
+        CusUiCommonFun::textBoundingRectUi(option.text, option.fontMetrics, widget).size();
+    return {0, 0, size.width(), size.height()};
+}
+
 } // namespace
 
 bool SvgBtnLayout::isRow() const
@@ -115,32 +124,19 @@ SvgBtnContent SvgBtnLayout::content(const QStyleOptionButton &option, const QSiz
 
     QString shownText = option.text;
     Box icon{0, 0, iconSize.width(), iconSize.height()};
-    Box text;
-    if (!option.text.isEmpty()) {
-        const QRect bounds =
-            CusUiCommonFun::textBoundingRectUi(option.text, option.fontMetrics, widget);
-        text.w = bounds.width();
-        text.h = bounds.height();
-    }
+    Box text = textBox(option, widget);
     const bool hasBoth = icon.w != 0 && icon.h != 0 && text.w != 0 && text.h != 0;
     const qint64 space = hasBoth ? svgTxtSpace : 0;
+    if (!isRow()) {
+        text.h = qMin(text.h, inner.h - space - icon.h);
+    } else if (space + text.w + icon.w > inner.w) {
+        text.w = inner.w - space - icon.w;
+        shownText = option.fontMetrics.elidedText(option.text, Qt::ElideRight, safeExtent(text.w));
+    }
     const bool textFirst =
         txtPos == CusSvgPushButton::Txt_Pos_Left || txtPos == CusSvgPushButton::Txt_Pos_Top;
-    Box &a = textFirst ? text : icon;
-    Box &b = textFirst ? icon : text;
-
-    if (isRow()) {
-        if (space + text.w + icon.w > inner.w) {
-            text.w = inner.w - space - icon.w;
-            shownText =
-                option.fontMetrics.elidedText(option.text, Qt::ElideRight, safeExtent(text.w));
-        }
-        placeInRow(btnFlow, inner, space, a, b);
-    } else {
-        if (space + text.h + icon.h > inner.h)
-            text.h = inner.h - space - icon.h;
-        placeInColumn(btnFlow, inner, space, a, b);
-    }
+    const auto place = isRow() ? placeInRow : placeInColumn;
+    place(btnFlow, inner, space, textFirst ? text : icon, textFirst ? icon : text);
     return {icon.toRect(), text.toRect(), shownText};
 }
 
