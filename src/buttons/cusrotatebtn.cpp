@@ -2,6 +2,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QPropertyAnimation>
 #include <QStyleOptionButton>
 
@@ -12,7 +13,8 @@ struct CusRotateBtn::Private
     int rotateInterval = 1000;
     int angle = 0;
     bool enableClickRotate = true;
-    QPropertyAnimation animation;
+    std::unique_ptr<QPropertyAnimation> animation = std::make_unique<QPropertyAnimation>();
+    int runningSignals = 0;
 };
 
 CusRotateBtn::CusRotateBtn(QWidget *parent)
@@ -20,11 +22,19 @@ CusRotateBtn::CusRotateBtn(QWidget *parent)
     , d(std::make_unique<Private>())
 {
     connect(this, &CusRotateBtn::signalAngleChanged, this, qOverload<>(&QWidget::update));
-    d->animation.setTargetObject(this);
-    d->animation.setPropertyName(QByteArrayLiteral("angle"));
+    d->animation->setTargetObject(this);
+    d->animation->setPropertyName(QByteArrayLiteral("angle"));
 }
 
-CusRotateBtn::~CusRotateBtn() = default;
+CusRotateBtn::~CusRotateBtn()
+{
+    if (d->runningSignals == 0)
+        return;
+    // A client deletes the button in signalAngleChanged. The animation that has just set the angle
+    // goes on below that slot, so it must outlive the button.
+    d->animation->stop();
+    d->animation.release()->deleteLater();
+}
 
 int CusRotateBtn::getRotateAngle() const
 {
@@ -66,7 +76,11 @@ void CusRotateBtn::setAngle(int angle)
     if (d->angle == angle)
         return;
     d->angle = angle;
+    const QPointer<CusRotateBtn> alive(this);
+    ++d->runningSignals;
     Q_EMIT signalAngleChanged(angle);
+    if (alive)
+        --d->runningSignals;
 }
 
 bool CusRotateBtn::getEnableClickRotate() const
@@ -81,32 +95,35 @@ void CusRotateBtn::setEnableClickRotate(bool enable)
 
 void CusRotateBtn::startRotate()
 {
-    if (d->animation.state() != QAbstractAnimation::Stopped)
-        d->animation.stop();
+    if (d->animation->state() != QAbstractAnimation::Stopped)
+        d->animation->stop();
     run();
 }
 
 void CusRotateBtn::stopRotate()
 {
-    d->animation.stop();
+    d->animation->stop();
 }
 
 void CusRotateBtn::run()
 {
     if (d->rotateInterval <= 0 || d->rotateCount == 0)
         return;
-    d->animation.setDuration(d->rotateInterval);
-    d->animation.setLoopCount(qMax(-1, d->rotateCount));
-    d->animation.setStartValue(0);
-    d->animation.setEndValue(d->rotateAngle);
-    d->animation.start();
+    d->animation->setDuration(d->rotateInterval);
+    d->animation->setLoopCount(qMax(-1, d->rotateCount));
+    d->animation->setStartValue(0);
+    d->animation->setEndValue(d->rotateAngle);
+    d->animation->start();
 }
 
 void CusRotateBtn::mousePressEvent(QMouseEvent *event)
 {
-    if (d->animation.state() != QAbstractAnimation::Running && d->enableClickRotate)
+    // The run begins with signalAngleChanged, in which the client may delete the button.
+    const QPointer<CusRotateBtn> alive(this);
+    if (d->animation->state() != QAbstractAnimation::Running && d->enableClickRotate)
         run();
-    CusSvgPushButton::mousePressEvent(event);
+    if (alive)
+        CusSvgPushButton::mousePressEvent(event);
 }
 
 void CusRotateBtn::paintEvent(QPaintEvent *)
