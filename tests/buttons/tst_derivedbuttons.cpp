@@ -1,6 +1,7 @@
 #include "support/guardedtest.h"
 #include "support/paintcounter.h"
 #include "support/render.h"
+#include "support/textrecorder.h"
 
 #include <Vellum/CusClickTipButton>
 #include <Vellum/CusColorConfig>
@@ -10,10 +11,10 @@
 #include <Vellum/CusSvgPushButton>
 #include <Vellum/DelayButton>
 
+#include <QHelpEvent>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTimer>
-#include <QToolTip>
 #include <QtTest>
 
 #include <limits>
@@ -21,6 +22,20 @@
 namespace {
 
 constexpr int kNever = 60000;
+
+/// Keeps the places of the tool tips that a widget is asked for.
+class TipRequests : public QObject
+{
+public:
+    QVector<QPoint> places;
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::ToolTip)
+            places.append(static_cast<QHelpEvent *>(event)->pos());
+        return false;
+    }
+};
 
 void waitFor(int milliseconds)
 {
@@ -39,13 +54,13 @@ private Q_SLOTS:
     void initTestCase();
     void badgeHasItsShapeAndText_data();
     void badgeHasItsShapeAndText();
+    void changedBadgeIsRepainted();
     void rotationTurnsTheButtonAboutItsMiddle();
     void pressStartsARunButNeverRestartsOne();
     void nothingToRun();
     void hiddenRotationPaintsNothing();
     void tapEndsAfterTheDelay();
     void longPressEndsWithTheRelease();
-    void secondPressCancelsTheFirstTap();
     void clickAsksForTheTip();
     void buttonsMayDieInTheirOwnSignals();
     void actionOwnsAButtonThatTheSheetFindsByName();
@@ -61,21 +76,31 @@ void TestDerivedButtons::badgeHasItsShapeAndText_data()
 {
     QTest::addColumn<CusPushButtonNum::SmallAreaType>("type");
     QTest::addColumn<QSize>("size");
-    QTest::addColumn<int>("paintedPlaces"); // of middle and corner
+    QTest::addColumn<bool>("middlePainted");
+    QTest::addColumn<bool>("cornerPainted");
+    const QSize size(20, 20);
+    QTest::newRow("circle") << CusPushButtonNum::AREA_TYPE_CIRCLE << size << true << false;
+    QTest::newRow("rectangle") << CusPushButtonNum::AREA_TYPE_RECT << size << true << true;
+    QTest::newRow("angle has no shape")
+        << CusPushButtonNum::AREA_TYPE_ANGLE << size << false << false;
+    QTest::newRow("empty size") << CusPushButtonNum::AREA_TYPE_RECT << QSize(0, 0) << false
+                                << false;
+    QTest::newRow("negative size")
+        << CusPushButtonNum::AREA_TYPE_CIRCLE << QSize(-20, -20) << false << false;
     const int huge = std::numeric_limits<int>::max();
-    QTest::newRow("circle") << CusPushButtonNum::AREA_TYPE_CIRCLE << QSize(20, 20) << 1;
-    QTest::newRow("rectangle") << CusPushButtonNum::AREA_TYPE_RECT << QSize(20, 20) << 2;
-    QTest::newRow("angle") << CusPushButtonNum::AREA_TYPE_ANGLE << QSize(20, 20) << 0;
-    QTest::newRow("no size") << CusPushButtonNum::AREA_TYPE_RECT << QSize(0, 0) << 0;
-    QTest::newRow("negative") << CusPushButtonNum::AREA_TYPE_CIRCLE << QSize(-20, -20) << 0;
-    QTest::newRow("huge") << CusPushButtonNum::AREA_TYPE_RECT << QSize(huge, 20) << 2;
+    QTest::newRow("huge rectangle")
+        << CusPushButtonNum::AREA_TYPE_RECT << QSize(huge, 20) << true << true;
+    QTest::newRow("huge circle") << CusPushButtonNum::AREA_TYPE_CIRCLE << QSize(huge, huge) << false
+                                 << false;
+    QTest::newRow("no such shape") << CusPushButtonNum::SmallAreaType(-7) << size << false << false;
 }
 
 void TestDerivedButtons::badgeHasItsShapeAndText()
 {
     QFETCH(CusPushButtonNum::SmallAreaType, type);
     QFETCH(QSize, size);
-    QFETCH(int, paintedPlaces);
+    QFETCH(bool, middlePainted);
+    QFETCH(bool, cornerPainted);
     CusPushButtonNum button;
     button.resize(80, 60);
     button.setStyleSheet(QStringLiteral("* { background: #ffffff; border: none }"));
@@ -89,13 +114,34 @@ void TestDerivedButtons::badgeHasItsShapeAndText()
     QCOMPARE(TestKit::inkExtent(TestKit::renderAt(&button), Qt::white), QRect());
 
     button.setSmallVisible(true);
-    const QImage image = TestKit::renderAt(&button);
-    const QColor corner = image.pixelColor(41, 11);
-    QCOMPARE(int(image.pixelColor(50, 20) == QColor(Qt::red)) + int(corner == QColor(Qt::red)),
-             paintedPlaces);
+    QImage image = TestKit::renderAt(&button);
+    QCOMPARE(image.pixelColor(50, 20) == QColor(Qt::red), middlePainted);
+    QCOMPARE(image.pixelColor(41, 11) == QColor(Qt::red), cornerPainted);
     button.setShowTextVisible(true);
-    if (size == QSize(20, 20))
-        QVERIFY(TestKit::countOf(TestKit::renderAt(&button), Qt::blue, 60) > 4);
+    if (size == QSize(20, 20)) {
+        TextRecorder recorder;
+        button.render(&recorder);
+        QCOMPARE(recorder.texts.size(), 1);
+        QCOMPARE(recorder.texts.constFirst().text, QStringLiteral("12"));
+        QCOMPARE(recorder.texts.constFirst().color, QColor(Qt::blue));
+    }
+    // From a size that can be drawn to one that can't.
+    for (int points : {30, -1, std::numeric_limits<int>::max()}) {
+        button.setFontSize(points);
+        TestKit::renderAt(&button);
+    }
+}
+
+void TestDerivedButtons::changedBadgeIsRepainted()
+{
+    CusPushButtonNum button;
+    button.setSmallVisible(true);
+    button.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&button));
+    QCoreApplication::processEvents();
+    PaintCounter paints(&button);
+    button.setShowText(QStringLiteral("3"));
+    QTRY_COMPARE(paints.count(), 1);
 }
 
 void TestDerivedButtons::rotationTurnsTheButtonAboutItsMiddle()
@@ -195,14 +241,22 @@ void TestDerivedButtons::tapEndsAfterTheDelay()
     DelayButton button;
     QSignalSpy released(&button, &DelayButton::signalDelayReleased);
     button.setPressedTime(kNever);
-    button.setDelayTime(1);
+    button.setDelayTime(5);
     button.setDelayTime(0);
     button.setDelayTime(-5);
     QTest::mouseClick(&button, Qt::LeftButton);
     QCOMPARE(released.count(), 0);
     QTRY_COMPARE(released.count(), 1);
-    waitFor(5);
+
+    // A second press cancels what is due for the first.
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QTest::mousePress(&button, Qt::LeftButton);
+    waitFor(30);
     QCOMPARE(released.count(), 1);
+    QTest::mouseRelease(&button, Qt::LeftButton);
+    QTRY_COMPARE(released.count(), 2);
+    waitFor(30);
+    QCOMPARE(released.count(), 2);
 }
 
 void TestDerivedButtons::longPressEndsWithTheRelease()
@@ -219,45 +273,45 @@ void TestDerivedButtons::longPressEndsWithTheRelease()
     QCOMPARE(released.count(), 1);
 }
 
-void TestDerivedButtons::secondPressCancelsTheFirstTap()
-{
-    DelayButton button;
-    QSignalSpy released(&button, &DelayButton::signalDelayReleased);
-    button.setPressedTime(kNever);
-    button.setDelayTime(5);
-    QTest::mouseClick(&button, Qt::LeftButton);
-    QTest::mousePress(&button, Qt::LeftButton);
-    waitFor(30);
-    QCOMPARE(released.count(), 0);
-    QTest::mouseRelease(&button, Qt::LeftButton);
-    QTRY_COMPARE(released.count(), 1);
-}
-
 void TestDerivedButtons::clickAsksForTheTip()
 {
     CusClickTipButton button;
     QCOMPARE(button.objectName(), QStringLiteral("CusClickTipButton"));
-    button.setToolTip(QStringLiteral("The camera's name"));
-    button.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&button));
-    QTest::mouseClick(&button, Qt::RightButton);
-    QCOMPARE(QToolTip::text(), QString());
-    QTRY_COMPARE(QToolTip::text(), button.toolTip());
-    QToolTip::hideText();
+    TipRequests tips;
+    button.installEventFilter(&tips);
+    QTest::mouseClick(&button, Qt::LeftButton, Qt::NoModifier, QPoint(7, 9));
+    QVERIFY(tips.places.isEmpty());
+    QCoreApplication::processEvents();
+    QCOMPARE(tips.places, QVector<QPoint>{QPoint(7, 9)});
 }
 
 void TestDerivedButtons::buttonsMayDieInTheirOwnSignals()
 {
-    const QVector<QPushButton *> buttons{new CusClickTipButton, new CusRotateBtn, new DelayButton};
-    for (const QPointer<QPushButton> button : buttons) {
-        connect(button, &QPushButton::released, this, [&] { delete button; });
-        QTest::mouseClick(button.data(), Qt::LeftButton);
-        QVERIFY(!button);
+    for (bool onPress : {true, false}) {
+        const QVector<QPushButton *> buttons{new CusSvgPushButton, new CusClickTipButton,
+                                             new CusRotateBtn, new DelayButton};
+        for (const QPointer<QPushButton> button : buttons) {
+            const auto die = [&] { delete button; };
+            if (onPress)
+                connect(button, &QPushButton::pressed, this, die);
+            else
+                connect(button, &QPushButton::clicked, this, die);
+            QTest::mousePress(button.data(), Qt::LeftButton);
+            if (button)
+                QTest::mouseRelease(button.data(), Qt::LeftButton);
+            QVERIFY(!button);
+        }
     }
-    QPointer<DelayButton> pressed = new DelayButton;
-    connect(pressed, &QPushButton::pressed, this, [&] { delete pressed; });
-    QTest::mousePress(pressed.data(), Qt::LeftButton);
-    QVERIFY(!pressed);
+
+    // A run tells of its first angle within the press, and of the later ones from the event loop.
+    for (int angle : {45, 0}) {
+        QPointer<CusRotateBtn> turned = new CusRotateBtn;
+        turned->setAngle(angle);
+        connect(turned, &CusRotateBtn::signalAngleChanged, this, [&] { delete turned; });
+        QTest::mousePress(turned.data(), Qt::LeftButton);
+        QTRY_VERIFY(!turned);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
 
     QPointer<DelayButton> delayed = new DelayButton;
     connect(delayed, &DelayButton::signalDelayReleased, this, [&] { delete delayed; });
