@@ -102,9 +102,9 @@ void QrCodeCard::showCode()
                 .arg(grouped(bytes), grouped(kMostBytes)));
         return;
     }
-    m_remark->setText(QStringLiteral("%1 bytes of UTF-8, medium error correction, a border of one "
-                                     "module. Any reader takes it off the screen.")
-                          .arg(grouped(bytes)));
+    m_remark->setText(
+        QStringLiteral("%1 bytes of UTF-8, medium error correction, a border of one module.")
+            .arg(grouped(bytes)));
 }
 
 /// The wrapped text on a paper that shows where its width ends.
