@@ -2,13 +2,22 @@
 
 #include <QPaintDevice>
 #include <QPaintEngine>
-#include <QStringList>
+#include <QPainter>
+#include <QVector>
 
-/// A paint device, 1,000 pixels square, that keeps the texts drawn on it; all else is ignored.
+/// A paint device, 1,000 pixels square, that keeps what texts are drawn on it, where and in what
+/// colour; all else is ignored.
 class TextRecorder : public QPaintDevice
 {
 public:
-    QStringList texts;
+    struct Text
+    {
+        QString text;
+        QPointF baseline;
+        QColor color;
+    };
+
+    QVector<Text> texts;
 
     QPaintEngine *paintEngine() const override { return &m_engine; }
 
@@ -47,9 +56,9 @@ private:
         void drawPixmap(const QRectF &, const QPixmap &, const QRectF &) override { }
         void drawPath(const QPainterPath &) override { }
         void drawPolygon(const QPointF *, int, PolygonDrawMode) override { }
-        void drawTextItem(const QPointF &, const QTextItem &item) override
+        void drawTextItem(const QPointF &at, const QTextItem &item) override
         {
-            m_owner->texts.append(item.text());
+            m_owner->texts.append({item.text(), at, painter()->pen().color()});
         }
 
     private:
