@@ -92,21 +92,16 @@ QString brokenText(const QFontMetrics &metrics, const QString &text, int width)
     return broken;
 }
 
-/// How many characters from \a position on a scrolling label of \a width shows, gap and second
-/// round included.
-int scrollStretch(const QFontMetrics &metrics, const QString &full, int position, int width)
+/// Where the stretch ends that a scrolling label of \a width shows from \a position on. One that
+/// goes on into the gap or the next round reaches all that is left of the text, however long it is.
+int scrollEnd(const QFontMetrics &metrics, const QString &full, int position, int width)
 {
     // Beyond the end of the text every length measures the same.
-    const QString looped = full + scrollGap();
-    const int last = qMin(looped.size() - 1, qMax(position, full.size() - position));
+    const int looped = full.size() + scrollGap().size();
+    const int last = qMin(looped - 1, qMax(position, full.size() - position));
     const int length =
         vellum::TextRuler(metrics, full).lengthReaching(width, position, position, last);
-    if (length >= 0)
-        return qMin(length + 1, looped.size() - position);
-    const QString twice = looped.mid(position) + looped;
-    const int reached = vellum::TextRuler(metrics, twice)
-                            .lengthReaching(width, 0, looped.size() - position, twice.size());
-    return reached < 0 ? twice.size() : reached;
+    return length < 0 ? looped : qMin(position + length + 1, looped);
 }
 
 } // namespace
@@ -293,14 +288,13 @@ void CusLabel::setSvgBGColor(const QColor &color)
 
 void CusLabel::setVisible(bool visible)
 {
-    if (visible && d->lableType == LABEL_TYPE_SCROLL_SHOW)
+    // Shown inside a hidden window: the window's own showing starts the timer.
+    const bool seen = visible && (isWindow() || parentWidget()->isVisible());
+    if (seen && d->lableType == LABEL_TYPE_SCROLL_SHOW)
         d->timer->start();
     else
         d->timer->stop();
     QLabel::setVisible(visible);
-    // Shown inside a hidden window: the window's own showing starts the timer.
-    if (!isVisible())
-        d->timer->stop();
 }
 
 void CusLabel::onTimeOut()
@@ -438,7 +432,7 @@ void CusLabel::getScrollShowText()
 
     // Each part is cut at its front only, so that it keeps its size; the label clips the rest.
     const int begin = d->scrollPos;
-    const int end = begin + scrollStretch(metrics, full, begin, width());
+    const int end = scrollEnd(metrics, full, begin, width());
     QStringList shown;
     int offset = 0;
     for (const QString &part : qAsConst(d->texts)) {
