@@ -18,7 +18,7 @@ class VELLUM_EXPORT ArrowWidget : public QFrame
 
 public:
     /// The edge that carries the arrow.
-    enum ArrowType
+    enum ArrowType : int
     {
         Arrow_Bottom = 0,
         Arrow_Top = 1,

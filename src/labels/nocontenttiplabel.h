@@ -18,7 +18,7 @@ class VELLUM_EXPORT NoContentTipLabel : public QLabel
 public:
     /// Where the text stands: from the upper edge of the view, its middle, or its lower edge
     /// downwards. Other values count as Show_Top.
-    enum ShowType
+    enum ShowType : int
     {
         Show_Top = 1,
         Show_Center = 2,
