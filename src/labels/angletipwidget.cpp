@@ -2,6 +2,7 @@
 
 #include "common/cuscolorconfig.h"
 #include "common/cusuicommonfun.h"
+#include "common/saferect.h"
 
 #include <QCursor>
 #include <QEvent>
@@ -238,8 +239,6 @@ void AngleTiPWidget::placeAtRightBottom()
 {
     // The height first, or the lower right corner would leave its point again.
     setMinimumHeight(kMinimumHeight);
-    constexpr qint64 limit = QWIDGETSIZE_MAX;
-    const qint64 x = qint64(d->rightBottom.x()) - rect().right();
-    const qint64 y = qint64(d->rightBottom.y()) - rect().bottom();
-    move(int(qBound(-limit, x, limit)), int(qBound(-limit, y, limit)));
+    move(vellum::safeExtent(qint64(d->rightBottom.x()) - rect().right()),
+         vellum::safeExtent(qint64(d->rightBottom.y()) - rect().bottom()));
 }

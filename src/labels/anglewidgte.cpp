@@ -1,7 +1,7 @@
 #include "labels/anglewidgte.h"
 
 #include "common/restyle.h"
-#include "common/safeint.h"
+#include "common/saferect.h"
 
 #include <QLabel>
 #include <QLayout>
@@ -15,7 +15,7 @@ constexpr int kMaximumHeight = 65536;
 
 int padded(int extent, int before, int after)
 {
-    return vellum::toInt(double(extent) + before + after, 0, QWIDGETSIZE_MAX);
+    return qMax(0, vellum::safeExtent(qint64(extent) + before + after));
 }
 
 } // namespace

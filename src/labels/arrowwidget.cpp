@@ -4,6 +4,7 @@
 #include "common/painterguard.h"
 #include "common/restyle.h"
 #include "common/safeint.h"
+#include "common/saferect.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -32,9 +33,7 @@ QSize measure(const QSize &size)
 /// \a a - \a b, kept where a widget can still stand.
 QPoint difference(const QPoint &a, const QPoint &b)
 {
-    constexpr double limit = QWIDGETSIZE_MAX;
-    return {vellum::toInt(qBound(-limit, double(a.x()) - b.x(), limit)),
-            vellum::toInt(qBound(-limit, double(a.y()) - b.y(), limit))};
+    return {vellum::safeExtent(qint64(a.x()) - b.x()), vellum::safeExtent(qint64(a.y()) - b.y())};
 }
 
 } // namespace
@@ -229,8 +228,6 @@ ArrowWidget::Shape ArrowWidget::shape(int inset) const
         return QPolygonF({QPointF(tip, middle.y()), QPointF(baseLine, middle.y() - half),
                           QPointF(baseLine, middle.y() + half)});
     };
-    if (half <= 0)
-        return {{}, body};
     switch (d->arrowType) {
     case Arrow_Top:
         return {above(d->vertexOffset.y() + inset, base), body};

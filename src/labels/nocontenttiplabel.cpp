@@ -1,5 +1,7 @@
 #include "labels/nocontenttiplabel.h"
 
+#include "common/saferect.h"
+
 #include <QEvent>
 #include <QPointer>
 #include <QVariant>
@@ -12,16 +14,13 @@ constexpr QPoint kFollowOffset(20, 40);
 
 QPoint globalPlace(const QWidget *widget, NoContentTipLabel::ShowType type, int x, int y)
 {
+    qint64 below = y;
+    if (type == NoContentTipLabel::Show_Center)
+        below = widget->height() / 2;
+    else if (type == NoContentTipLabel::Show_Below)
+        below += widget->height();
     const QPoint corner = widget->mapToGlobal(QPoint(0, 0));
-    switch (type) {
-    case NoContentTipLabel::Show_Center:
-        return corner + QPoint(x, widget->height() / 2);
-    case NoContentTipLabel::Show_Below:
-        return corner + QPoint(x, widget->height() + y);
-    case NoContentTipLabel::Show_Top:
-        break;
-    }
-    return corner + QPoint(x, y);
+    return {vellum::safeExtent(qint64(corner.x()) + x), vellum::safeExtent(corner.y() + below)};
 }
 
 } // namespace
@@ -80,7 +79,7 @@ void NoContentTipLabel::showTipContentAsChild(const QString &text, QWidget *widg
     widget->installEventFilter(this);
     setOriginText(text);
     takeWidthOf(widget);
-    move(x, y);
+    move(vellum::safeExtent(x), vellum::safeExtent(y));
     show();
 }
 

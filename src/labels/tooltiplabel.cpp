@@ -3,6 +3,7 @@
 #include "common/cuscolorconfig.h"
 #include "common/cusuicommonfun.h"
 #include "common/safeint.h"
+#include "common/saferect.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QApplication>
@@ -158,8 +159,7 @@ void ToolTipLabel::placeTip(const QPoint &pos)
         if (y + height() > bottom)
             y = bottom - height();
     }
-    constexpr qint64 limit = QWIDGETSIZE_MAX;
-    move(int(qBound(-limit, x, limit)), int(qBound(-limit, y, limit)));
+    move(vellum::safeExtent(x), vellum::safeExtent(y));
 }
 
 void ToolTipLabel::updateSize(const QString &text)

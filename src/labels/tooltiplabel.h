@@ -31,7 +31,8 @@ public:
     static void showLabelText(const QPoint &pos, const QString &text, QWidget *widget);
 
     /// Moves the tip below and to the right of the global position \a pos, and to the other side
-    /// of it where the screen ends; the tip always stays on the screen that holds \a pos.
+    /// of it where the screen ends; the tip stays on the screen that holds \a pos. One that is
+    /// wider keeps its left edge there, one that is higher its lower edge.
     void placeTip(const QPoint &pos);
     /// Takes \a text, plain with line feeds or rich, and the size that it needs.
     void updateSize(const QString &text);
