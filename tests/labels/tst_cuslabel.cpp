@@ -76,39 +76,30 @@ private Q_SLOTS:
     void aFontInPointsComesToRest();
     void drawsTheTintedImageBehindTheText();
     void tellsPressAndReleaseOnce();
-    void mayBeDeletedInItsOwnSignals();
 };
 
 void TestCusLabel::showsTheTextByItsPolicy_data()
 {
-    constexpr auto clip = CusLabel::LABEL_TYPE_DEFAULT;
     constexpr auto elide = CusLabel::LABEL_TYPE_LONG_ELLIPSES;
-    constexpr auto scroll = CusLabel::LABEL_TYPE_SCROLL_SHOW;
-    const auto big = [](const QString &part) { return kBig.arg(part); };
-    const auto small = [](const QString &part) { return kSmall.arg(part); };
     const QStringList one{kGate};
     const QStringList two{kGate, kTime};
     const QString none;
-    const int gate = advance(kGate);
+    const QString whole = kBig.arg(kGate) + kSmall.arg(kTime);
     QTest::addColumn<CusLabel::LableType>("type");
     QTest::addColumn<QStringList>("parts");
     QTest::addColumn<int>("width");
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("tip");
 
-    QTest::newRow("clipped") << clip << one << 20 << kGate << none;
-    QTest::newRow("clipped, two") << clip << two << 20 << big(kGate) + small(kTime) << none;
+    QTest::newRow("clipped") << CusLabel::LABEL_TYPE_DEFAULT << two << 20 << whole << none;
     QTest::newRow("unknown policy") << CusLabel::LableType(9) << one << 20 << kGate << none;
-    QTest::newRow("elided, empty") << elide << QStringList{none} << 80 << none << none;
     QTest::newRow("elided, no width") << elide << one << 0 << elided(kGate, 0) << kGate;
-    QTest::newRow("elided, fits") << elide << one << gate + 1 << kGate << none;
-    QTest::newRow("elided, cut") << elide << one << 80 << elided(kGate, 80) << kGate;
-    QTest::newRow("elided, two fit") << elide << two << 400 << big(kGate) + small(kTime) << none;
+    QTest::newRow("elided, two fit") << elide << two << 400 << whole << none;
     QTest::newRow("elided, second cut")
-        << elide << two << gate + 30 << big(kGate) + small(elided(kTime, 30, 12)) << kGate + kTime;
+        << elide << two << advance(kGate) + 30
+        << kBig.arg(kGate) + kSmall.arg(elided(kTime, 30, 12)) << kGate + kTime;
     QTest::newRow("elided, first cut")
-        << elide << two << 80 << big(elided(kGate, 80)) << kGate + kTime;
-    QTest::newRow("scrolling, fits") << scroll << one << gate + 1 << kGate << none;
+        << elide << two << 80 << kBig.arg(elided(kGate, 80)) << kGate + kTime;
 }
 
 void TestCusLabel::showsTheTextByItsPolicy()
@@ -132,21 +123,20 @@ void TestCusLabel::showsTheTextByItsPolicy()
 void TestCusLabel::linesBreakWhereThePlainWalkBreaksThem()
 {
     const std::pair<const char *, const char *> fontsAndAlphabets[] = {
-        {"Noto Sans CJK SC", "iilWAVTfi. -_/019"},
         {"DejaVu Serif", "AVToLfil'\"jJ W"},
         {"DejaVu Sans", "摄像机北门iW12，。"},
         {"Noto Sans CJK SC", "abW\u0301\u0645\u0631\t\n\u200d\U0001F4F7"},
     };
     QRandomGenerator random(20);
     for (int round = 0; round < 96; ++round) {
-        const auto &[family, characters] = fontsAndAlphabets[round % 4];
+        const auto &[family, characters] = fontsAndAlphabets[round % 3];
         const QVector<uint> alphabet = QString::fromUtf8(characters).toUcs4();
         QString text;
         for (int i = random.bounded(250); i > 0; --i)
             text += QString::fromUcs4(&alphabet.at(random.bounded(alphabet.size())), 1);
         QFont font(QString::fromUtf8(family));
         font.setPixelSize(8 + random.bounded(24));
-        font.setItalic(round % 3 == 0);
+        font.setItalic(round % 4 == 0);
         if (round % 5 == 1)
             font.setLetterSpacing(QFont::AbsoluteSpacing, 4 - random.bounded(20));
         CusLabel label;
@@ -193,9 +183,8 @@ void TestCusLabel::scrollsThroughBothParts()
     QCOMPARE(seen.at(8), QStringLiteral("live"));
     QCOMPARE(seen.mid(11), QStringList({QStringLiteral("e"), {}, {}, {}, {}, label.text()}));
     QCOMPARE(label.text(), QStringLiteral("West yard"));
-    label.setText(QStringLiteral("West yard, loading bay"));
-    QVERIFY(label.text().startsWith(QLatin1String("West")));
-    QCOMPARE(tick(label).left(3), QStringLiteral("est"));
+    label.setText(kGate); // starts over
+    QCOMPARE(tick(label), kGate.mid(1));
 }
 
 void TestCusLabel::scrollsOnlyWhileVisibleAndTooNarrow()
@@ -212,16 +201,14 @@ void TestCusLabel::scrollsOnlyWhileVisibleAndTooNarrow()
     window.show();
     QVERIFY(timer->isActive());
     QCOMPARE(timer->interval(), 300);
-    label.setVisible(false);
-    QVERIFY(!timer->isActive());
-    label.setVisible(true);
-    QVERIFY(timer->isActive());
-    window.hide();
-    QVERIFY(!timer->isActive());
-    window.show();
+    for (QWidget *widget : {static_cast<QWidget *>(&label), &window}) {
+        widget->setVisible(false);
+        QVERIFY(!timer->isActive());
+        widget->setVisible(true);
+        QVERIFY(timer->isActive());
+    }
 
     label.resize(400, 30);
-    QCOMPARE(label.toolTip(), kGate);
     QCOMPARE(tick(label), kGate);
     QCOMPARE(label.toolTip(), QString());
     QVERIFY(!timer->isActive());
@@ -237,7 +224,6 @@ void TestCusLabel::aFontInPointsComesToRest()
     label.setFont(QFont(QStringLiteral("DejaVu Sans"), 11));
     label.resize(300, 30);
     label.setCustomText(QStringLiteral("Lobby"), QStringLiteral("ground floor"));
-    QVERIFY(label.text().contains(QLatin1String("14px")));
     label.show();
     QVERIFY(QTest::qWaitForWindowExposed(&label));
     QTRY_VERIFY(label.text().startsWith(QLatin1String("<font>Lobby</font>")));
@@ -257,17 +243,13 @@ void TestCusLabel::drawsTheTintedImageBehindTheText()
     CusLabel label;
     label.resize(40, 20);
     label.setSvgBGColor(QColor(0, 200, 0));
+    label.setSvgBGImage(QStringLiteral("missing.svg"));
     QVERIFY(TestKit::inkExtent(TestKit::renderAt(&label)).isNull());
     label.setProperty("svgBGImage", file.fileName());
-    for (const int ratio : {1, 2})
-        QCOMPARE(TestKit::extentOf(TestKit::renderAt(&label, ratio), QColor(0, 200, 0)),
-                 QRect(0, 0, 40 * ratio, 20 * ratio));
+    QCOMPARE(TestKit::countOf(TestKit::renderAt(&label), QColor(0, 200, 0)), 40 * 20);
     label.setSvgBGColor(Qt::red);
     label.setText(QStringLiteral("W"));
     QVERIFY(TestKit::inkExtent(TestKit::renderAt(&label), Qt::red).width() < 30);
-    label.clear();
-    label.setSvgBGImage(QStringLiteral("missing.svg"));
-    QVERIFY(TestKit::inkExtent(TestKit::renderAt(&label)).isNull());
 }
 
 void TestCusLabel::tellsPressAndReleaseOnce()
@@ -281,17 +263,14 @@ void TestCusLabel::tellsPressAndReleaseOnce()
     for (const Qt::MouseButton button : {Qt::RightButton, Qt::LeftButton})
         QTest::mouseRelease(&label, button, Qt::NoModifier, QPoint(-5, -5));
     QCOMPARE(released.count(), 1);
-}
 
-void TestCusLabel::mayBeDeletedInItsOwnSignals()
-{
     for (const auto signal : {&CusLabel::signalPressed, &CusLabel::signalReleased}) {
-        const QPointer<CusLabel> label(new CusLabel(kGate));
-        connect(label, signal, label, [label] { delete label; });
-        QTest::mousePress(label, Qt::LeftButton);
-        if (label)
-            QTest::mouseRelease(label, Qt::LeftButton);
-        QVERIFY(!label);
+        const QPointer<CusLabel> deleted(new CusLabel(kGate));
+        connect(deleted, signal, deleted, [deleted] { delete deleted; });
+        QTest::mousePress(deleted, Qt::LeftButton);
+        if (deleted)
+            QTest::mouseRelease(deleted, Qt::LeftButton);
+        QVERIFY(!deleted);
     }
 }
 
