@@ -19,7 +19,7 @@
 namespace {
 
 constexpr int kJudgedSize = 24;
-constexpr qint64 kVeryLarge = 100 * 1024;
+constexpr qint64 kVeryLarge = qint64(100) * 1024;
 constexpr int kSolidAlpha = 128;
 constexpr int kColorTolerance = 24;
 constexpr int kExamples = 5;

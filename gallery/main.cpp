@@ -75,17 +75,17 @@ int main(int argc, char **argv)
     if (!qFuzzyCompare(scale, 1.0))
         qputenv("QT_SCALE_FACTOR", QByteArray::number(scale));
     QApplication app(argc, argv);
-    app.setApplicationName(QStringLiteral("vellum-gallery"));
+    QApplication::setApplicationName(QStringLiteral("vellum-gallery"));
 
     GalleryOptions &options = GalleryOptions::current();
-    options.parse(app.arguments());
+    options.parse(QApplication::arguments());
     if (!options.surveyFolder.isEmpty())
         return runIconSurvey(options.surveyFolder);
     QFont font(QStringLiteral("Noto Sans CJK SC"));
     font.setPixelSize(14);
-    app.setFont(font);
+    QApplication::setFont(font);
     if (!options.screenshotFolder.isEmpty())
-        app.setCursorFlashTime(0);
+        QApplication::setCursorFlashTime(0);
     app.setStyleSheet(styleSheet());
 
     GalleryWindow window;
@@ -101,5 +101,5 @@ int main(int argc, char **argv)
     window.show();
     if (!options.screenshotFolder.isEmpty())
         return saveScreenshots(&window, options);
-    return app.exec();
+    return QApplication::exec();
 }

@@ -131,7 +131,7 @@ public:
                const QModelIndex &index) const override;
 
 private:
-    const QImage &icon(const QModelIndex &index, qreal ratio) const;
+    QImage icon(const QModelIndex &index, qreal ratio) const;
     QImage tinted(const QString &file, qreal ratio) const;
 
     QColor m_tint;
@@ -167,14 +167,14 @@ QImage IconDelegate::tinted(const QString &file, qreal ratio) const
     return image;
 }
 
-const QImage &IconDelegate::icon(const QModelIndex &index, qreal ratio) const
+QImage IconDelegate::icon(const QModelIndex &index, qreal ratio) const
 {
     const int row = index.row();
-    if (QImage *known = m_icons.object(row))
+    if (const QImage *known = m_icons.object(row))
         return *known;
-    auto *made = new QImage(tinted(index.data(Qt::ToolTipRole).toString(), ratio));
-    m_icons.insert(row, made);
-    return *made;
+    QImage made = tinted(index.data(Qt::ToolTipRole).toString(), ratio);
+    m_icons.insert(row, new QImage(made));
+    return made;
 }
 
 void IconDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
@@ -191,7 +191,7 @@ void IconDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     }
     const QRect box(option.rect.x() + (option.rect.width() - m_size) / 2,
                     option.rect.y() + kCellPadding, m_size, m_size);
-    const QImage &image = icon(index, painter->device()->devicePixelRatioF());
+    const QImage image = icon(index, painter->device()->devicePixelRatioF());
     if (image.isNull()) {
         painter->setPen(QPen(m_unreadable, 1, Qt::DashLine));
         painter->setBrush(Qt::NoBrush);

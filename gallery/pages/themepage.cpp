@@ -12,6 +12,7 @@
 #include <QJsonObject>
 #include <QLabel>
 #include <QPainter>
+#include <QPainterPath>
 #include <QPushButton>
 
 #include <cmath>

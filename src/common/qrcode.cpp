@@ -12,7 +12,7 @@ namespace {
 constexpr int kBorderModules = 1;
 /// Qt's SVG reader cuts a path off behind 32,767 elements; a row has at most 89 runs of five.
 constexpr int kRowsOfPath = 64;
-constexpr qint64 kMaxPixels = 64 * 1024 * 1024;
+constexpr qint64 kMaxPixels = qint64(64) * 1024 * 1024;
 /// Painting reaches no further; what lies behind would show memory that nobody has written.
 constexpr int kMaxSide = 32767;
 /// Digits, the densest text, at medium level in the largest symbol.

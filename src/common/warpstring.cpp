@@ -293,7 +293,7 @@ QString warpString(const QFontMetrics &metrics, const QString &text, int width, 
 {
     int count = 1;
     const bool fitsAsItIs = metrics.horizontalAdvance(text) <= width;
-    const QString result = fitsAsItIs ? text : Wrapper(metrics, text, width).wrap(&count);
+    QString result = fitsAsItIs ? text : Wrapper(metrics, text, width).wrap(&count);
     if (lineCount)
         *lineCount = count;
     if (wrapped)
