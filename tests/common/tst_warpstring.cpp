@@ -2,7 +2,6 @@
 
 #include <Vellum/CusUiCommonFun>
 
-#include <QRandomGenerator>
 #include <QtTest>
 
 namespace {
@@ -45,21 +44,11 @@ QString plainWrap(const QFontMetrics &metrics, const QString &text, int width, b
     return lines.join(QLatin1Char('\n'));
 }
 
-QString pick(QRandomGenerator *random, const QString &alphabet)
-{
-    const auto index = int(random->bounded(quint32(alphabet.size())));
-    // Qt measures half a surrogate pair inside a text now so, now so: a pair stands whole, and as a
-    // word that always fits.
-    if (alphabet.at(index).isLowSurrogate())
-        return alphabet.mid(index - 1, 2) + QLatin1Char(' ');
-    return alphabet.at(index).isHighSurrogate() ? QString() : QString(alphabet.at(index));
-}
-
 QString randomText(QRandomGenerator *random, const QString &alphabet, int size)
 {
     QString text;
     while (text.size() < size)
-        text += pick(random, alphabet);
+        text += alphabet.at(random->bounded(alphabet.size()));
     return text;
 }
 
@@ -73,6 +62,55 @@ QFont sized(const QString &family, int pixels, bool italic)
     return font;
 }
 
+/// Few: each new one is searched through the whole system for the letters that it lacks.
+QVector<QFont> plainFonts()
+{
+    QVector<QFont> fonts;
+    for (const char *family : {"DejaVu Sans", "Noto Sans", "Noto Sans CJK SC", "Noto Serif"}) {
+        fonts.append(sized(QString::fromLatin1(family), 7, false));
+        fonts.append(sized(QString::fromLatin1(family), 19, true));
+    }
+    fonts.first().setFamilies({fonts.first().family(), QStringLiteral("Noto Sans CJK SC"),
+                               QStringLiteral("Noto Sans Devanagari")});
+    fonts.first().setStyleStrategy(QFont::PreferDefault);
+    return fonts;
+}
+
+/// With spacing that eats letters up or turns their widths round, small capitals, fractions of
+/// pixels, stretch.
+QVector<QFont> oddFonts()
+{
+    QVector<QFont> fonts(6, sized(QStringLiteral("Noto Sans"), 15, false));
+    fonts[0].setLetterSpacing(QFont::AbsoluteSpacing, -6);
+    fonts[1].setLetterSpacing(QFont::AbsoluteSpacing, -30);
+    fonts[2].setWordSpacing(-25);
+    fonts[3].setCapitalization(QFont::SmallCaps);
+    fonts[4].setHintingPreference(QFont::PreferNoHinting);
+    fonts[5] = sized(QStringLiteral("DejaVu Sans"), 15, false);
+    fonts[5].setHintingPreference(QFont::PreferNoHinting);
+    fonts[5].setStretch(70);
+    return fonts;
+}
+
+/// Fails the test unless warpString() gives what the plain rules give.
+void compareWithPlainRules(const QFont &font, const QString &text, int width)
+{
+    const QFontMetrics metrics(font);
+    bool wrapped = false;
+    bool plainlyWrapped = false;
+    int lineCount = 0;
+    int plainCount = 0;
+    const QString expected = plainWrap(metrics, text, width, &plainlyWrapped, &plainCount);
+    const QString actual = warpString(metrics, text, width, &wrapped, &lineCount);
+    QVERIFY2(actual == expected,
+             qPrintable(QStringLiteral("%1, width %2: \"%3\" instead of \"%4\"")
+                            .arg(font.toString())
+                            .arg(width)
+                            .arg(actual, expected)));
+    QCOMPARE(wrapped, plainlyWrapped);
+    QCOMPARE(lineCount, plainCount);
+}
+
 } // namespace
 
 class TestWarpString : public GuardedTest
@@ -80,189 +118,94 @@ class TestWarpString : public GuardedTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void rules_data();
     void rules();
     void agreesWithThePlainRules_data();
     void agreesWithThePlainRules();
-    void agreesUnderOddFonts_data();
-    void agreesUnderOddFonts();
     void losesNothingOfBrokenPairs();
-    void nullResultsAreAllowed();
 };
-
-void TestWarpString::rules_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("digits"); // the width, in digits
-    QTest::addColumn<QString>("expected");
-    QTest::addColumn<int>("lines");
-
-    const auto row = [](const char *name, const char *text, int digits, const char *expected,
-                        int lines) {
-        QTest::newRow(name) << QString::fromUtf8(text) << digits << QString::fromUtf8(expected)
-                            << lines;
-    };
-    row("a text that fits is returned as is", "12 34", 5, "12 34", 1);
-    row("a word moves to the next line whole", "12,3456", 5, "12,\n3456", 2);
-    row("a blank that doesn't fit starts the next line", "12345 6", 5, "12345\n 6", 2);
-    row("a word that is too long breaks where it stands", "1234567", 3, "123\n456\n7", 3);
-    row("break behind a comma, a semicolon and a full stop", "1,2;3.4", 2, "1,\n2;\n3.\n4", 4);
-    row("break before any ideograph", "12\u4e00\u9fa5", 3, "12\n\u4e00\n\u9fa5", 3);
-    row("no break at the ideograph behind the last", "1,2\u9fa6", 3, "1,\n2\u9fa6", 2);
-    row("one character a line at width 0", "123", 0, "1\n2\n3", 3);
-    row("one character a line at a negative width", "\u4e00 1", -9, "\u4e00\n \n1", 3);
-    row("a line feed is a character like others", "1\n2", 0, "1\n\n\n2", 3);
-    row("an empty text fits", "", 0, "", 1);
-    row("an empty text that doesn't fit has no line", "", -1, "", 0);
-}
 
 void TestWarpString::rules()
 {
-    QFETCH(QString, text);
-    QFETCH(int, digits);
-    QFETCH(QString, expected);
-    QFETCH(int, lines);
-
     // An ideograph is as wide as two digits.
     const QFontMetrics metrics(sized(QStringLiteral("Noto Sans Mono CJK SC"), 20, false));
-    bool wrapped = lines <= 1;
-    int lineCount = -1;
-    QCOMPARE(warpString(metrics, text, digits * metrics.horizontalAdvance(QLatin1Char('0')),
-                        &wrapped, &lineCount),
-             expected);
-    QCOMPARE(lineCount, lines);
-    QCOMPARE(wrapped, lines > 1);
+    const int digit = metrics.horizontalAdvance(QLatin1Char('0'));
+    const auto check = [&](const char *text, int digits, const char *expected, int lines) {
+        bool wrapped = lines <= 1;
+        int lineCount = -1;
+        QCOMPARE(warpString(metrics, QString::fromUtf8(text), digits * digit, &wrapped, &lineCount),
+                 QString::fromUtf8(expected));
+        QCOMPARE(lineCount, lines);
+        QCOMPARE(wrapped, lines > 1);
+    };
+    check("12 34", 5, "12 34", 1);
+    check("12,3456", 5, "12,\n3456", 2);
+    check("12345 6", 5, "12345\n 6", 2);
+    check("1234567", 3, "123\n456\n7", 3); // a word that is too long breaks where it stands
+    check("1,2;3.4", 2, "1,\n2;\n3.\n4", 4);
+    check("12\u4e00\u9fa5", 3, "12\n\u4e00\n\u9fa5", 3);
+    check("1,2\u9fa6", 3, "1,\n2\u9fa6", 2); // no break at the ideograph behind the last
+    check("123", 0, "1\n2\n3", 3);
+    check("\u4e00 1", -9, "\u4e00\n \n1", 3);
+    check("1\n2", 0, "1\n\n\n2", 3);
+    check("", 0, "", 1);
+    check("", -1, "", 0); // an empty text that doesn't fit has no line
 }
 
 void TestWarpString::agreesWithThePlainRules_data()
 {
     QTest::addColumn<QString>("alphabet");
+    QTest::addColumn<QVector<QFont>>("fonts");
 
     const auto row = [](const char *name, const char *alphabet) {
-        QTest::newRow(name) << QString::fromUtf8(alphabet);
+        QTest::newRow(name) << QString::fromUtf8(alphabet) << plainFonts();
     };
     row("words", "abcdefghijklmnopqrstuvwxyzABCDEFG    ,.;'\"-0123456789");
     row("kerning and ligatures", "fffiiljtTAVWaoLY.,-/ ");
     row("one long word", "mwil1_AVTo");
-    row("accents", "àéîõüßÆñçøĄŐŢİıƒ Wo,");
     row("digits and ideographs", "0123456789 .,(-)一二三通道摄像机");
     row("CJK with kana and full-width forms", "录像回放，。（）「」ひらがなカタカナＡＢ１２—…・ー");
     row("Latin and CJK", "abc ABC 摄像机 、。,.;“”‘’…—fi");
-    row("Greek and Cyrillic", "αβγΑΥΩ абвгдТАУЖ .,;12");
+    row("accents, Greek and Cyrillic", "àéîõüßÆçĄŐİıƒ αβγΑΥΩ абвгдТАУЖ .,;12");
     row("line ends and tabs", "ab \n\r\t\u2028,文");
     row("Arabic and Hebrew", "السلام عليكم שלום abc 12,.()");
     row("combining marks", "aeiou\u0301\u0308\u0323 xyz,文\u3099");
     row("Devanagari and Thai", "नमस्ते दुनिया क्षि กำี่ ab,");
     row("joiners, marks and controls", "\u200d\ufe0f❤ ab文\u200b\u00ad\u202e\u009c,");
-    row("emoji", "😀👨🏽❤ ab文, ");
+    QTest::newRow("odd fonts") << QStringLiteral("abcdefillVATWwm    ,.;1(文") << oddFonts();
 }
 
 void TestWarpString::agreesWithThePlainRules()
 {
     QFETCH(QString, alphabet);
+    QFETCH(QVector<QFont>, fonts);
 
-    // Few fonts: each new one is searched through the whole system for the letters that it lacks.
-    const QStringList families = {QStringLiteral("DejaVu Sans"), QStringLiteral("Noto Sans"),
-                                  QStringLiteral("Noto Sans CJK SC"), QStringLiteral("Noto Serif")};
     QRandomGenerator random(20200229);
     for (int round = 0; round < 40; ++round) {
-        const int kind = round / families.size() % 2;
-        QFont font = sized(families.at(round % families.size()), 7 + 12 * kind, kind == 1);
-        if (round % 8 == 0) {
-            font.setFamilies({font.family(), QStringLiteral("Noto Sans CJK SC"),
-                              QStringLiteral("Noto Sans Devanagari")});
-            font.setStyleStrategy(QFont::PreferDefault);
-        }
-        const QFontMetrics metrics(font);
+        const QFont font = fonts.at(round % fonts.size());
         const QString text = randomText(&random, alphabet, random.bounded(1, 160));
         // Mostly a width at which the text, up to some character, just fits or just doesn't.
         const QString start = text.left(random.bounded(text.size() + 1));
-        int width = random.bounded(4) > 0 ? metrics.horizontalAdvance(start) - random.bounded(2)
-                                          : random.bounded(-2, 400);
-        if (std::any_of(text.begin(), text.end(), [](QChar c) { return c.isSurrogate(); }))
-            width += 4 * font.pixelSize();
-        bool wrapped = false;
-        bool plainlyWrapped = false;
-        int lineCount = 0;
-        int plainCount = 0;
-        const QString expected = plainWrap(metrics, text, width, &plainlyWrapped, &plainCount);
-        const QString actual = warpString(metrics, text, width, &wrapped, &lineCount);
-        QVERIFY2(actual == expected,
-                 qPrintable(QStringLiteral("round %1, %2, width %3: \"%4\" instead of \"%5\"")
-                                .arg(round)
-                                .arg(font.toString())
-                                .arg(width)
-                                .arg(actual, expected)));
-        QCOMPARE(wrapped, plainlyWrapped);
-        QCOMPARE(lineCount, plainCount);
-    }
-}
-
-void TestWarpString::agreesUnderOddFonts_data()
-{
-    QTest::addColumn<QFont>("font");
-
-    QFont font = sized(QStringLiteral("Noto Sans"), 15, false);
-    font.setLetterSpacing(QFont::AbsoluteSpacing, -6);
-    QTest::newRow("letter spacing that eats narrow letters up") << font;
-    font.setLetterSpacing(QFont::AbsoluteSpacing, -30);
-    QTest::newRow("letter spacing that turns widths round") << font;
-    font.setLetterSpacing(QFont::AbsoluteSpacing, 0);
-    font.setWordSpacing(-25);
-    QTest::newRow("word spacing that turns blanks round") << font;
-    font.setWordSpacing(0);
-    font.setCapitalization(QFont::SmallCaps);
-    QTest::newRow("small capitals") << font;
-    font.setCapitalization(QFont::MixedCase);
-    font.setHintingPreference(QFont::PreferNoHinting);
-    QTest::newRow("fractions of pixels") << font;
-    font.setFamily(QStringLiteral("DejaVu Sans"));
-    font.setStretch(70);
-    QTest::newRow("condensed") << font;
-}
-
-void TestWarpString::agreesUnderOddFonts()
-{
-    QFETCH(QFont, font);
-
-    const QFontMetrics metrics(font);
-    QRandomGenerator random(7);
-    const QString alphabet = QStringLiteral("abcdefillVATWwm    ,.;1(文");
-    for (int round = 0; round < 24; ++round) {
-        const QString text = randomText(&random, alphabet, random.bounded(1, 200));
-        const int width =
-            metrics.horizontalAdvance(text.left(random.bounded(text.size()))) - random.bounded(2);
-        bool wrapped = false;
-        int lineCount = 0;
-        const QString expected = plainWrap(metrics, text, width, &wrapped, &lineCount);
-        QCOMPARE(warpString(metrics, text, width, nullptr, nullptr), expected);
+        const int width = random.bounded(4) > 0
+            ? QFontMetrics(font).horizontalAdvance(start) - random.bounded(2)
+            : random.bounded(-2, 400);
+        compareWithPlainRules(font, text, width);
+        if (QTest::currentTestFailed())
+            return;
     }
 }
 
 void TestWarpString::losesNothingOfBrokenPairs()
 {
+    // Qt measures half a surrogate pair inside a text now so, now so: no rule says where it wraps.
     const QFontMetrics metrics{sized(QStringLiteral("Noto Sans"), 16, false)};
     QRandomGenerator random(11);
     const QString alphabet = QString::fromUtf8("😀👨\u200d👩🏽\ufe0fab 文,");
     for (int round = 0; round < 20; ++round) {
-        QString text;
-        while (text.size() < 60)
-            text += alphabet.at(random.bounded(alphabet.size()));
+        const QString text = randomText(&random, alphabet, 60);
         const int width = random.bounded(-1, 200);
         QString wrapped = warpString(metrics, text, width, nullptr, nullptr);
         QCOMPARE(wrapped.remove(QLatin1Char('\n')), text);
     }
-}
-
-void TestWarpString::nullResultsAreAllowed()
-{
-    const QFontMetrics metrics{sized(QStringLiteral("DejaVu Sans Mono"), 20, false)};
-    int lineCount = 0;
-    QCOMPARE(warpString(metrics, QStringLiteral("12"), 0, nullptr, &lineCount),
-             QStringLiteral("1\n2"));
-    QCOMPARE(lineCount, 2);
-    QCOMPARE(warpString(metrics, QStringLiteral("12"), 100, nullptr, nullptr),
-             QStringLiteral("12"));
 }
 
 QTEST_MAIN(TestWarpString)
