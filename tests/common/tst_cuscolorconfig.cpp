@@ -2,18 +2,15 @@
 
 #include <Vellum/CusColorConfig>
 
-#include <QJsonArray>
-#include <QJsonObject>
-#include <QResource>
 #include <QtTest>
 
 namespace {
 
-/// The theme as a client finds it with one .rcc file, or none, compiled in.
 class Config : public CusColorConfig
 {
 };
 
+/// The theme as a client finds it with one .rcc file, or none, compiled in.
 class RegisteredTheme
 {
 public:
@@ -36,37 +33,29 @@ class TestCusColorConfig : public GuardedTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void missingOrBrokenFileLeavesEverythingInvalid_data();
     void missingOrBrokenFileLeavesEverythingInvalid();
     void readsTheFile();
     void builtInColors();
     void paletteRepeatsAndClampsBelow();
 };
 
-void TestCusColorConfig::missingOrBrokenFileLeavesEverythingInvalid_data()
-{
-    QTest::addColumn<QString>("resource");
-    QTest::addColumn<QString>("warning");
-    QTest::newRow("missing") << QString() << QStringLiteral("^(?!unterminated).+");
-    QTest::newRow("broken") << QStringLiteral("brokentheme.rcc") << QStringLiteral("unterminated");
-}
-
 void TestCusColorConfig::missingOrBrokenFileLeavesEverythingInvalid()
 {
-    QFETCH(QString, resource);
-    QFETCH(QString, warning);
-    const RegisteredTheme theme(resource);
-    expectWarning(QRegularExpression(warning));
-    Config config;
-    QVERIFY(!config.mainColor().isValid());
-    QVERIFY(!config.getCommonColorByIndex(0).isValid());
-    QVERIFY(config.config().isEmpty());
-    QCOMPARE(config.getColor(QStringLiteral("any"), Qt::red), QColor(Qt::red));
+    for (const char *resource : {"", "brokentheme.rcc"}) {
+        const RegisteredTheme theme(QString::fromLatin1(resource));
+        expectWarning(QRegularExpression(*resource ? QStringLiteral("unterminated")
+                                                   : QStringLiteral("^(?!unterminated).+")));
+        Config config;
+        QVERIFY2(!config.mainColor().isValid(), resource);
+        QVERIFY2(!config.getCommonColorByIndex(0).isValid(), resource);
+        QVERIFY2(config.config().isEmpty(), resource);
+        QCOMPARE(config.getColor(QStringLiteral("any"), Qt::red), QColor(Qt::red));
 
-    const QColor &main = config.mainColor();
-    config.setConfig({});
-    QCOMPARE(main, QColor(0x25, 0x6e, 0xb4));
-    QCOMPARE(config.commonColors().size(), 10);
+        const QColor &main = config.mainColor();
+        config.setConfig({});
+        QCOMPARE(main, QColor(0x25, 0x6e, 0xb4));
+        QCOMPARE(config.commonColors().size(), 10);
+    }
 }
 
 void TestCusColorConfig::readsTheFile()
@@ -90,34 +79,28 @@ void TestCusColorConfig::readsTheFile()
 
 void TestCusColorConfig::builtInColors()
 {
-    struct Row
-    {
-        const char *key;
-        const QColor &(CusColorConfig::*accessor)() const;
-        QRgb builtIn;
-    };
-    using C = CusColorConfig;
-    const Row rows[] = {{"mainColor", &C::mainColor, 0x256eb4},
-                        {"successColor", &C::successColor, 0x109e5c},
-                        {"warningColor", &C::warningColor, 0xffaf14},
-                        {"danger1Color", &C::danger1Color, 0xf14958},
-                        {"danger2Color", &C::danger2Color, 0xc83f3f},
-                        {"highlightColor", &C::highlightColor, 0x429ef6},
-                        {"bakcgroundColor", &C::bakcgroundColor, 0x0f121a},
-                        {"negativeBarBackgroundColor", &C::negativeBarBackgroundColor, 0x262f3e},
-                        {"dialogHeaderColor", &C::dialogHeaderColor, 0x323c4e},
-                        {"dialogBackgroundColor", &C::dialogBackgroundColor, 0x27303e},
-                        {"bubbleColor", &C::bubbleColor, 0x424e64},
-                        {"mainTextColor", &C::mainTextColor, 0xffffff},
-                        {"subTextColor", &C::subTextColor, 0xa0a7b4}};
     const RegisteredTheme theme(QStringLiteral("theme.rcc"));
     Config config;
-    for (const Row &row : rows) {
+    using C = CusColorConfig;
+    const auto check = [&](const char *key, const QColor &(C::*accessor)() const, QRgb builtIn) {
         config.setConfig({});
-        QCOMPARE((config.*row.accessor)(), QColor(row.builtIn));
-        config.setConfig({{QString::fromLatin1(row.key), QStringLiteral("#80010203")}});
-        QCOMPARE((config.*row.accessor)(), QColor(1, 2, 3, 0x80));
-    }
+        QCOMPARE((config.*accessor)(), QColor(builtIn));
+        config.setConfig({{QString::fromLatin1(key), QStringLiteral("#80010203")}});
+        QCOMPARE((config.*accessor)(), QColor(1, 2, 3, 0x80));
+    };
+    check("mainColor", &C::mainColor, 0x256eb4);
+    check("successColor", &C::successColor, 0x109e5c);
+    check("warningColor", &C::warningColor, 0xffaf14);
+    check("danger1Color", &C::danger1Color, 0xf14958);
+    check("danger2Color", &C::danger2Color, 0xc83f3f);
+    check("highlightColor", &C::highlightColor, 0x429ef6);
+    check("bakcgroundColor", &C::bakcgroundColor, 0x0f121a);
+    check("negativeBarBackgroundColor", &C::negativeBarBackgroundColor, 0x262f3e);
+    check("dialogHeaderColor", &C::dialogHeaderColor, 0x323c4e);
+    check("dialogBackgroundColor", &C::dialogBackgroundColor, 0x27303e);
+    check("bubbleColor", &C::bubbleColor, 0x424e64);
+    check("mainTextColor", &C::mainTextColor, 0xffffff);
+    check("subTextColor", &C::subTextColor, 0xa0a7b4);
 }
 
 void TestCusColorConfig::paletteRepeatsAndClampsBelow()
