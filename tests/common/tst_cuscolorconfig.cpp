@@ -17,8 +17,7 @@ public:
     explicit RegisteredTheme(const QString &name)
         : m_file(QCoreApplication::applicationDirPath() + QLatin1Char('/') + name)
     {
-        if (!name.isEmpty() && !QResource::registerResource(m_file))
-            qWarning("no resource file %s", qUtf8Printable(m_file));
+        QResource::registerResource(m_file);
     }
     ~RegisteredTheme() { QResource::unregisterResource(m_file); }
 

@@ -79,9 +79,10 @@ void TestStarterTheme::schemesHaveTheSameColors()
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QJsonObject harbour = QJsonDocument::fromJson(file.readAll()).object();
     // A key in only one of the two is misspelt there, and no control would read it.
-    QCOMPARE(harbour.keys(), starter.keys());
+    const QStringList keys = starter.keys();
+    QCOMPARE(harbour.keys(), keys);
     for (const QJsonObject &scheme : {starter, harbour}) {
-        for (const QString &key : scheme.keys()) {
+        for (const QString &key : keys) {
             const QStringList colors = scheme.value(key).toVariant().toStringList();
             QCOMPARE(key == QStringLiteral("commonColors"), colors.size() == 10);
             QVERIFY(!colors.isEmpty());
@@ -94,8 +95,9 @@ void TestStarterTheme::schemesHaveTheSameColors()
 void TestStarterTheme::textStandsOutFromItsGround()
 {
     const auto check = [](const char *fronts, const char *grounds, double least = 4.5) {
+        const QStringList frontKeys = QString::fromLatin1(fronts).split(QLatin1Char(' '));
         const QStringList groundKeys = QString::fromLatin1(grounds).split(QLatin1Char(' '));
-        for (const QString &front : QString::fromLatin1(fronts).split(QLatin1Char(' '))) {
+        for (const QString &front : frontKeys) {
             for (const QString &ground : groundKeys)
                 QVERIFY2(contrast(themeColor(front), themeColor(ground)) >= least,
                          qPrintable(front + QStringLiteral(" on ") + ground));

@@ -86,8 +86,6 @@ QVector<QFont> oddFonts()
     fonts[2].setWordSpacing(-25);
     fonts[3].setCapitalization(QFont::SmallCaps);
     fonts[4].setHintingPreference(QFont::PreferNoHinting);
-    fonts[5] = sized(QStringLiteral("DejaVu Sans"), 15, false);
-    fonts[5].setHintingPreference(QFont::PreferNoHinting);
     fonts[5].setStretch(70);
     return fonts;
 }
@@ -102,11 +100,7 @@ void compareWithPlainRules(const QFont &font, const QString &text, int width)
     int plainCount = 0;
     const QString expected = plainWrap(metrics, text, width, &plainlyWrapped, &plainCount);
     const QString actual = warpString(metrics, text, width, &wrapped, &lineCount);
-    QVERIFY2(actual == expected,
-             qPrintable(QStringLiteral("%1, width %2: \"%3\" instead of \"%4\"")
-                            .arg(font.toString())
-                            .arg(width)
-                            .arg(actual, expected)));
+    QVERIFY2(actual == expected, qPrintable(font.toString() + QLatin1Char('\n') + actual));
     QCOMPARE(wrapped, plainlyWrapped);
     QCOMPARE(lineCount, plainCount);
 }
@@ -144,7 +138,6 @@ void TestWarpString::rules()
     check("1,2;3.4", 2, "1,\n2;\n3.\n4", 4);
     check("12\u4e00\u9fa5", 3, "12\n\u4e00\n\u9fa5", 3);
     check("1,2\u9fa6", 3, "1,\n2\u9fa6", 2); // no break at the ideograph behind the last
-    check("123", 0, "1\n2\n3", 3);
     check("\u4e00 1", -9, "\u4e00\n \n1", 3);
     check("1\n2", 0, "1\n\n\n2", 3);
     check("", 0, "", 1);
@@ -180,7 +173,7 @@ void TestWarpString::agreesWithThePlainRules()
     QFETCH(QVector<QFont>, fonts);
 
     QRandomGenerator random(20200229);
-    for (int round = 0; round < 40; ++round) {
+    for (int round = 0; round < 40 && !QTest::currentTestFailed(); ++round) {
         const QFont font = fonts.at(round % fonts.size());
         const QString text = randomText(&random, alphabet, random.bounded(1, 160));
         // Mostly a width at which the text, up to some character, just fits or just doesn't.
@@ -189,8 +182,6 @@ void TestWarpString::agreesWithThePlainRules()
             ? QFontMetrics(font).horizontalAdvance(start) - random.bounded(2)
             : random.bounded(-2, 400);
         compareWithPlainRules(font, text, width);
-        if (QTest::currentTestFailed())
-            return;
     }
 }
 
