@@ -22,11 +22,13 @@ constexpr QSize kSquare(40, 40);
 QWidget *widthRow()
 {
     QVector<QWidget *> cells;
-    for (int width : {208, 136, 88, 40}) {
+    for (int width : {192, 136, 88, 56}) {
         auto *button = new CusSvgPushButton;
         button->setObjectName(QStringLiteral("gallery_svgPlaced"));
         button->setText(QStringLiteral("Loading bay, north"));
         button->setFixedSize(width, 32);
+        button->setLeftMargin(8);
+        button->setRightMargin(8);
         cells.append(PageKit::captioned(button, QStringLiteral("%1 px").arg(width)));
     }
     auto *adjusted = new CusSvgPushButton;
@@ -41,9 +43,19 @@ QWidget *widthRow()
         button->setIcon(QStringLiteral(":/Resource/icons/dome-camera.svg"), QSize(size, size),
                         QColor());
         button->setFixedSize(40, 40);
+        button->setBtnFlow(CusSvgPushButton::Flow_Left);
         cells.append(PageKit::captioned(button, QStringLiteral("%1 px").arg(size)));
     }
     return PageKit::row(cells);
+}
+
+/// The widgets beside each other, their middles on one line: a small label beside buttons.
+QWidget *centredRow(const QVector<QWidget *> &widgets)
+{
+    QWidget *row = PageKit::row(widgets, 8);
+    for (QWidget *widget : widgets)
+        row->layout()->setAlignment(widget, Qt::AlignVCenter);
+    return row;
 }
 
 struct Badge
@@ -119,7 +131,7 @@ QWidget *rotation()
         endless->stopRotate();
         endless->setAngle(0);
     });
-    cells.append(PageKit::captioned(PageKit::row({endless, start, stop, angleLine}, 8),
+    cells.append(PageKit::captioned(centredRow({endless, start, stop, angleLine}),
                                     QStringLiteral("startRotate() without end")));
     return PageKit::row(cells);
 }
@@ -204,7 +216,7 @@ QWidget *menuActions(QWidget *owner)
         auto *action = new CusSvgAction(one.first, one.second, owner);
         auto *icon =
             new ButtonState(action->getSvgActionBtn(), QStyle::State_Enabled, QSize(24, 24));
-        cells.append(PageKit::row({icon, new QLabel(action->text())}, 8));
+        cells.append(centredRow({icon, new QLabel(action->text())}));
     }
     return PageKit::row(cells, 16);
 }
