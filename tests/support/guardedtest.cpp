@@ -31,13 +31,6 @@ void guardMessages(QtMsgType type, const QMessageLogContext &context, const QStr
 
 } // namespace
 
-GuardedTest::~GuardedTest()
-{
-    if (previousHandler)
-        qInstallMessageHandler(nullptr);
-    previousHandler = nullptr;
-}
-
 void GuardedTest::expectWarning(const QRegularExpression &pattern)
 {
     QMutexLocker locker(&messageMutex);
@@ -46,22 +39,19 @@ void GuardedTest::expectWarning(const QRegularExpression &pattern)
 
 void GuardedTest::init()
 {
-    // QtTest installs its own handler before each function, so ours goes on top of it each time.
-    const QtMessageHandler handler = qInstallMessageHandler(guardMessages);
-    if (handler != guardMessages)
-        previousHandler = handler;
     QMutexLocker locker(&messageMutex);
     expectedWarnings.clear();
     strayWarnings.clear();
+    previousHandler = qInstallMessageHandler(guardMessages);
 }
 
 void GuardedTest::cleanup()
 {
+    qInstallMessageHandler(previousHandler);
     QMutexLocker locker(&messageMutex);
-    const QStringList stray = strayWarnings;
-    const int missing = expectedWarnings.size();
+    const QString stray = strayWarnings.join(QLatin1Char('\n'));
+    const bool allCame = expectedWarnings.isEmpty();
     locker.unlock();
-    QVERIFY2(stray.isEmpty(),
-             qPrintable(QStringLiteral("stray warning: ") + stray.join(QLatin1Char('\n'))));
-    QVERIFY2(missing == 0, "an expected warning did not come");
+    QVERIFY2(stray.isEmpty(), qPrintable(QStringLiteral("stray warning: ") + stray));
+    QVERIFY2(allCame, "an expected warning did not come");
 }

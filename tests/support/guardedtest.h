@@ -12,8 +12,6 @@ class GuardedTest : public QObject
     Q_OBJECT
 
 public:
-    ~GuardedTest() override;
-
     /// The next message that matches \a pattern is expected; one that doesn't come is a failure.
     void expectWarning(const QRegularExpression &pattern);
 

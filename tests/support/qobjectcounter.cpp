@@ -11,33 +11,22 @@ namespace {
 
 constexpr int kAddQObject = 3;
 constexpr int kRemoveQObject = 4;
-using Hook = void (*)(QObject *);
 
 QMutex hookMutex;
 QSet<QObject *> living;
 int constructed = 0;
-quintptr previousAdd = 0;
-quintptr previousRemove = 0;
 
 void added(QObject *object)
 {
-    {
-        QMutexLocker locker(&hookMutex);
-        living.insert(object);
-        ++constructed;
-    }
-    if (previousAdd)
-        reinterpret_cast<Hook>(previousAdd)(object);
+    QMutexLocker locker(&hookMutex);
+    living.insert(object);
+    ++constructed;
 }
 
 void removed(QObject *object)
 {
-    {
-        QMutexLocker locker(&hookMutex);
-        living.remove(object);
-    }
-    if (previousRemove)
-        reinterpret_cast<Hook>(previousRemove)(object);
+    QMutexLocker locker(&hookMutex);
+    living.remove(object);
 }
 
 } // namespace
@@ -47,16 +36,14 @@ QObjectCounter::QObjectCounter(const QMetaObject &type)
 {
     living.clear();
     constructed = 0;
-    previousAdd = qtHookData[kAddQObject];
-    previousRemove = qtHookData[kRemoveQObject];
     qtHookData[kAddQObject] = reinterpret_cast<quintptr>(&added);
     qtHookData[kRemoveQObject] = reinterpret_cast<quintptr>(&removed);
 }
 
 QObjectCounter::~QObjectCounter()
 {
-    qtHookData[kAddQObject] = previousAdd;
-    qtHookData[kRemoveQObject] = previousRemove;
+    qtHookData[kAddQObject] = 0;
+    qtHookData[kRemoveQObject] = 0;
 }
 
 int QObjectCounter::alive() const
