@@ -10,7 +10,6 @@ public:
     explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
 
     int count() const { return m_count; }
-    void reset() { m_count = 0; }
 
     bool eventFilter(QObject *, QEvent *event) override
     {

@@ -1,6 +1,8 @@
 #include "support/render.h"
 
-#include <QPainter>
+#include <QBuffer>
+#include <QRegularExpression>
+#include <QSvgGenerator>
 #include <QWidget>
 
 namespace {
@@ -11,25 +13,21 @@ bool near(QRgb a, QRgb b, int tolerance)
         && qAbs(qBlue(a) - qBlue(b)) <= tolerance;
 }
 
-template <typename Visit>
-void forEachPixel(const QImage &image, Visit visit)
+/// Counts the pixels that are, or are not, near \a color, and widens \a extent by them.
+int scan(const QImage &image, const QColor &color, int tolerance, bool wanted, QRect *extent)
 {
     const QImage rgb = image.convertToFormat(QImage::Format_RGB32);
+    int count = 0;
     for (int y = 0; y < rgb.height(); ++y) {
         const auto *line = reinterpret_cast<const QRgb *>(rgb.constScanLine(y));
-        for (int x = 0; x < rgb.width(); ++x)
-            visit(x, y, line[x]);
+        for (int x = 0; x < rgb.width(); ++x) {
+            if (near(line[x], color.rgb(), tolerance) == wanted) {
+                ++count;
+                *extent |= QRect(x, y, 1, 1);
+            }
+        }
     }
-}
-
-QRect extentWhere(const QImage &image, const QColor &color, int tolerance, bool matching)
-{
-    QRect extent;
-    forEachPixel(image, [&](int x, int y, QRgb pixel) {
-        if (near(pixel, color.rgb(), tolerance) == matching)
-            extent |= QRect(x, y, 1, 1);
-    });
-    return extent;
+    return count;
 }
 
 } // namespace
@@ -47,22 +45,38 @@ QImage renderAt(QWidget *widget, qreal ratio)
 
 QRect extentOf(const QImage &image, const QColor &color, int tolerance)
 {
-    return extentWhere(image, color, tolerance, true);
+    QRect extent;
+    scan(image, color, tolerance, true, &extent);
+    return extent;
 }
 
 int countOf(const QImage &image, const QColor &color, int tolerance)
 {
-    int count = 0;
-    forEachPixel(image, [&](int, int, QRgb pixel) {
-        if (near(pixel, color.rgb(), tolerance))
-            ++count;
-    });
-    return count;
+    QRect extent;
+    return scan(image, color, tolerance, true, &extent);
 }
 
 QRect inkExtent(const QImage &image, const QColor &ground, int tolerance)
 {
-    return extentWhere(image, ground, tolerance, false);
+    QRect extent;
+    scan(image, ground, tolerance, false, &extent);
+    return extent;
+}
+
+QStringList drawnTexts(const std::function<void(QPaintDevice *)> &draw, const QColor &color)
+{
+    QBuffer svg;
+    QSvgGenerator generator;
+    generator.setOutputDevice(&svg);
+    generator.setSize(QSize(1000, 1000));
+    generator.setResolution(96);
+    draw(&generator);
+    const QRegularExpression text(
+        QStringLiteral("<text fill=\"%1\"[^>]*>([^<]*)</text>").arg(color.name()));
+    QStringList texts;
+    for (auto it = text.globalMatch(QString::fromUtf8(svg.data())); it.hasNext();)
+        texts.append(it.next().captured(1));
+    return texts;
 }
 
 } // namespace TestKit

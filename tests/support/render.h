@@ -3,7 +3,11 @@
 #include <QColor>
 #include <QImage>
 #include <QRect>
+#include <QStringList>
 
+#include <functional>
+
+class QPaintDevice;
 class QWidget;
 
 namespace TestKit {
@@ -25,5 +29,8 @@ int countOf(const QImage &image, const QColor &color, int tolerance = 8);
 
 /// The smallest rectangle that holds every pixel that differs from \a ground.
 QRect inkExtent(const QImage &image, const QColor &ground = unpainted, int tolerance = 8);
+
+/// The texts that \a draw draws in \a color on a device of 1,000 pixels square.
+QStringList drawnTexts(const std::function<void(QPaintDevice *)> &draw, const QColor &color);
 
 } // namespace TestKit
