@@ -65,7 +65,7 @@ GalleryWindow *GalleryWindow::of(const QWidget *page)
 QStringList GalleryWindow::pageNames() const
 {
     QStringList names;
-    for (const GalleryPage &page : d->pages)
+    for (const GalleryPage &page : qAsConst(d->pages))
         names.append(page.name);
     return names;
 }

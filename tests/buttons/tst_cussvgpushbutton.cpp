@@ -380,6 +380,19 @@ private Q_SLOTS:
         }
     }
 
+    void tellsWhenTheCursorComesAndGoes()
+    {
+        Button button;
+        QSignalSpy entered(&button, &Button::signalMouseEnter);
+        QSignalSpy left(&button, &Button::signalMouseLeave);
+        QEnterEvent enter(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
+        QCoreApplication::sendEvent(&button, &enter);
+        QCOMPARE(entered.count() * 10 + left.count(), 10);
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(&button, &leave);
+        QCOMPARE(entered.count() * 10 + left.count(), 11);
+    }
+
     void followsTheStyleSheet()
     {
         Button button;

@@ -78,8 +78,15 @@ void TestStarterTheme::schemesHaveTheSameColors()
     QFile file(QFINDTESTDATA("../../gallery/harbour.json"));
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QJsonObject harbour = QJsonDocument::fromJson(file.readAll()).object();
-    // A key in only one of the two is misspelt there, and no control would read it.
+    // A key that is misspelt in the file would never be read.
+    QFile list(QFINDTESTDATA("colorkeys.txt"));
+    QVERIFY(list.open(QIODevice::ReadOnly));
+    QStringList known = QString::fromLatin1(list.readAll()).split(QLatin1Char('\n'));
+    known.removeLast();
+    known << QStringLiteral("commonColors") << QStringLiteral("CusColorChoosePane_ColorArray");
+    known.sort();
     const QStringList keys = starter.keys();
+    QCOMPARE(keys, known);
     QCOMPARE(harbour.keys(), keys);
     for (const QJsonObject &scheme : {starter, harbour}) {
         for (const QString &key : keys) {
