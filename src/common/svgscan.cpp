@@ -33,11 +33,21 @@ constexpr int kPlainOutline = 32;
 
 bool isOrdinary(const QByteArray &svg)
 {
-    static const std::array<const char *, 6> words = {"<use",   ":use",      "<image",
-                                                      ":image", "dasharray", "<?xml-stylesheet"};
+    static const std::array<const char *, 7> words = {
+        "<use", ":use", "<image", ":image", "dasharray", "\\", "<?xml-stylesheet"};
     return svg.size() <= kOrdinarySize && svg.count('<') <= kOrdinaryTags
         && std::none_of(words.begin(), words.end(),
                         [&svg](const char *word) { return svg.contains(word); });
+}
+
+/// Whether \a style spells ASCII by escapes, so that no search finds its properties. The names of
+/// fonts are often escaped as well, but beyond ASCII.
+bool hidesNames(const QString &style)
+{
+    static const QRegularExpression pattern(
+        QStringLiteral("\\\\(?:0000[0-7]|0{0,4}[0-7]?[0-9a-f](?![0-9a-f])|[g-z-])"),
+        QRegularExpression::CaseInsensitiveOption);
+    return style.contains(QLatin1Char('\\')) && pattern.match(style).hasMatch();
 }
 
 class SvgScan
@@ -65,6 +75,7 @@ private:
     };
 
     bool startElement();
+    bool styleText(const QString &text);
     int enterGroup(const QString &id);
     void measure(const QXmlStreamAttributes &attributes);
     void measureDashes(const QString &name, const QXmlStreamAttributes &attributes);
@@ -84,7 +95,7 @@ private:
     int m_gradientLinks = 0;
     qint64 m_rules = 0;
     qint64 m_pictureArea = 0;
-    bool m_inStyle = false;
+    bool m_hasStyle = false;
     double m_extent = 0.0;
     int m_dashedDepth = 0;
     bool m_allDashed = false;
@@ -103,11 +114,9 @@ bool SvgScan::isRenderable()
         } else if (token == QXmlStreamReader::EndElement) {
             m_path.removeLast();
             m_dashedDepth = std::max(0, m_dashedDepth - 1);
-            m_inStyle = false;
-        } else if (token == QXmlStreamReader::Characters && m_inStyle) {
-            m_rules +=
-                m_reader.text().count(QLatin1Char('{')) + m_reader.text().count(QLatin1Char(','));
-            m_allDashed = m_allDashed || m_reader.text().contains(QLatin1String("dasharray"));
+        } else if (token == QXmlStreamReader::Characters && m_hasStyle) {
+            if (!styleText(m_reader.text().toString()))
+                return false;
         } else if (token == QXmlStreamReader::ProcessingInstruction
                    && m_reader.processingInstructionTarget() == QLatin1String("xml-stylesheet")) {
             return false;
@@ -126,7 +135,9 @@ bool SvgScan::startElement()
         measure(attributes);
     measureDashes(name, attributes);
     const int group = enterGroup(attributes.value(QLatin1String("id")).toString());
-    m_inStyle = name == QLatin1String("style");
+    m_hasStyle = m_hasStyle || name == QLatin1String("style");
+    if (hidesNames(attributes.value(QLatin1String("style")).toString()))
+        return false;
     QString link = attributes.value(QLatin1String("xlink:href")).toString();
     // The renderer knows no other name for the link of a picture.
     if (name == QLatin1String("image"))
@@ -136,6 +147,15 @@ bool SvgScan::startElement()
     if (name == QLatin1String("use"))
         m_groups[group].uses.append(link.mid(1));
     return gradient(name, link);
+}
+
+/// Any text behind the start of a style element counts: the renderer takes what follows an element
+/// inside a style for rules as well.
+bool SvgScan::styleText(const QString &text)
+{
+    m_rules += text.count(QLatin1Char('{')) + text.count(QLatin1Char(','));
+    m_allDashed = m_allDashed || text.contains(QLatin1String("dasharray"));
+    return !hidesNames(text);
 }
 
 /// The group that an element with \a id, which may be empty, belongs to.

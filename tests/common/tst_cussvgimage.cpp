@@ -298,6 +298,12 @@ void TestCusSvgImage::paintsWhatIsOnlyUnusual()
               + rect.repeated(3000)));
     check("dashes", true, svg(dash + "2,1' d='M0 0L9 9'/>" + rect + "<path d='" + lines + "'/>"));
     check("fine dashes", false, svg(dash + "0.001' d='" + lines + "'/>" + rect));
+    check("escaped dashes", false,
+          svg("<path style='stroke:red;stroke-dash\\000061rray:0.001' d='" + lines + "'/>" + rect));
+    check("escaped font", true, svg("<g style=\"font-family:'\\5FAE\\8F6F'\">" + rect + "</g>"));
+    check("dashes behind an element in a style", false,
+          svg("<style><a/>path{stroke:red;stroke-dasharray:0.001;}</style><path d='" + lines + "'/>"
+              + rect));
     check("nested groups", true,
           svg(QByteArray("<g>").repeated(250) + rect + QByteArray("</g>").repeated(250)));
 }
