@@ -2,13 +2,13 @@
 
 #include "common/cssrules.h"
 #include "common/safeint.h"
+#include "common/svgrenderer.h"
 #include "common/svgscan.h"
 #include "data/xmlfile.h"
 
 #include <QFile>
 #include <QPainter>
 #include <QSet>
-#include <QSvgRenderer>
 
 #include <optional>
 
@@ -209,12 +209,8 @@ QByteArray CusSvgImage::getFillColorByteArray(const QColor &color) const
 
 void CusSvgImage::paintSvgImage(QPainter *painter, const QRect &rect) const
 {
-    if (!d->renderer && d->document) {
-        d->renderer = std::make_unique<QSvgRenderer>();
-        const QByteArray text = d->text();
-        if (!text.isEmpty())
-            d->renderer->load(text);
-    }
+    if (!d->renderer && d->document)
+        d->renderer = vellum::makeSvgRenderer(d->text());
     // For an empty rectangle the renderer would take the whole device.
     if (!d->renderer || rect.isEmpty() || !painter || !painter->isActive())
         return;

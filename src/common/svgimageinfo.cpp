@@ -1,8 +1,7 @@
 #include "common/svgimageinfo.h"
 
 #include "common/cussvgimage.h"
-
-#include <QSvgRenderer>
+#include "common/svgrenderer.h"
 
 struct SvgImageInfo::Private
 {
@@ -66,7 +65,5 @@ void SvgImageInfo::init(CusSvgImage *image)
     const bool shared = !hasOwnImage || (image && image->svgFile() == d->svgImage);
     const QByteArray text = shared ? image->getFillColorByteArray(d->svgColor)
                                    : CusSvgImage(d->svgImage).getFillColorByteArray(d->svgColor);
-    d->render = std::make_unique<QSvgRenderer>();
-    if (!text.isEmpty())
-        d->render->load(text);
+    d->render = vellum::makeSvgRenderer(text);
 }

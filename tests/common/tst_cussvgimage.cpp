@@ -8,6 +8,7 @@
 
 #include <QPainter>
 #include <QSvgRenderer>
+#include <QTimer>
 #include <QtTest>
 
 #include <sys/stat.h>
@@ -23,6 +24,7 @@ private Q_SLOTS:
     void loadResetsEverything();
     void paintsTheTintIntoTheWholeRectangle();
     void renderersAreKept();
+    void animationRunsNoTimer();
     void pixmap();
     void infoTakesTheRightSource();
     void infoKeepsItsRenderer();
@@ -179,6 +181,15 @@ void TestCusSvgImage::renderersAreKept()
     image.setFillColor(Qt::blue);
     QCOMPARE(TestKit::countOf(painted(image), Qt::blue), 24 * 24);
     QCOMPARE(renderers.alive(), 1);
+}
+
+void TestCusSvgImage::animationRunsNoTimer()
+{
+    CusSvgImage image(svg("<rect width='24' height='24'><animateTransform type='rotate' "
+                          "attributeName='transform' from='0' to='0' dur='1s'/></rect>"));
+    const QObjectCounter timers(QTimer::staticMetaObject);
+    QVERIFY(!TestKit::inkExtent(painted(image)).isNull());
+    QCOMPARE(timers.alive(), 0);
 }
 
 void TestCusSvgImage::pixmap()
