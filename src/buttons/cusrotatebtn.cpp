@@ -6,6 +6,8 @@
 #include <QPropertyAnimation>
 #include <QStyleOptionButton>
 
+#include <limits>
+
 struct CusRotateBtn::Private
 {
     int rotateAngle = 360;
@@ -110,7 +112,9 @@ void CusRotateBtn::run()
     if (d->rotateInterval <= 0 || d->rotateCount == 0)
         return;
     d->animation->setDuration(d->rotateInterval);
-    d->animation->setLoopCount(qMax(-1, d->rotateCount));
+    // The animation counts a whole run in an int of milliseconds.
+    const int most = std::numeric_limits<int>::max() / d->rotateInterval;
+    d->animation->setLoopCount(qBound(-1, d->rotateCount, most));
     d->animation->setStartValue(0);
     d->animation->setEndValue(d->rotateAngle);
     d->animation->start();
