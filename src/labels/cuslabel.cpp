@@ -322,9 +322,6 @@ void CusLabel::resizeEvent(QResizeEvent *event)
 {
     QLabel::resizeEvent(event);
     updateShownText();
-    // A text that fitted had stopped the timer; the next tick tells whether it still does.
-    if (d->lableType == LABEL_TYPE_SCROLL_SHOW && isVisible() && !d->timer->isActive())
-        d->timer->start();
 }
 
 // A label is mostly shown and hidden with its window, which doesn't call setVisible().
@@ -398,7 +395,10 @@ void CusLabel::updateShownText()
         showElided(shownPixelSize());
         break;
     case LABEL_TYPE_SCROLL_SHOW:
-        break; // the timer drives it
+        // A text that fitted had stopped the timer; the next tick tells whether it still does.
+        if (isVisible() && !d->timer->isActive())
+            d->timer->start();
+        break;
     case LABEL_TYPE_DEFAULT:
     default:
         QLabel::setText(richText(shownPixelSize(), d->texts));
