@@ -5,12 +5,9 @@
 #include <Vellum/CusSvgPushButton>
 #include <Vellum/CusUiCommonFun>
 
-#include <QMetaProperty>
-#include <QPainter>
-#include <QStyleOptionButton>
 #include <QSvgRenderer>
-#include <QTemporaryDir>
 #include <QtTest>
+#include <QtWidgets>
 
 #include <limits>
 

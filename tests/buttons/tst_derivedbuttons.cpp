@@ -10,11 +10,8 @@
 #include <Vellum/CusSvgPushButton>
 #include <Vellum/DelayButton>
 
-#include <QHelpEvent>
-#include <QSignalSpy>
-#include <QTemporaryFile>
-#include <QTimer>
 #include <QtTest>
+#include <QtWidgets>
 
 #include <limits>
 

@@ -4,12 +4,8 @@
 #include <Vellum/AngleTiPWidget>
 #include <Vellum/CusColorConfig>
 
-#include <QJsonObject>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPointer>
-#include <QTimer>
 #include <QtTest>
+#include <QtWidgets>
 
 class TestAngleTiPWidget : public GuardedTest
 {

@@ -4,13 +4,8 @@
 #include <Vellum/AngleWidgte>
 #include <Vellum/CusColorConfig>
 
-#include <QJsonObject>
-#include <QLabel>
-#include <QLayout>
-#include <QPainter>
-#include <QPointer>
-#include <QPushButton>
 #include <QtTest>
+#include <QtWidgets>
 
 class TestArrowWidget : public GuardedTest
 {

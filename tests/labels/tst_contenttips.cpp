@@ -3,9 +3,8 @@
 #include <Vellum/NoContentTipLabel>
 #include <Vellum/WarningTipAndJumpLink>
 
-#include <QPushButton>
-#include <QTranslator>
 #include <QtTest>
+#include <QtWidgets>
 
 /// NoContentTipLabel and WarningTipAndJumpLink: the tips that stand in a page.
 class TestContentTips : public GuardedTest

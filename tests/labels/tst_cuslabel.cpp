@@ -4,9 +4,8 @@
 
 #include <Vellum/CusLabel>
 
-#include <QRandomGenerator>
-#include <QTimer>
 #include <QtTest>
+#include <QtWidgets>
 
 Q_DECLARE_METATYPE(CusLabel::LableType)
 

@@ -4,11 +4,8 @@
 #include <Vellum/CusColorConfig>
 #include <Vellum/ToolTipLabel>
 
-#include <QJsonObject>
-#include <QPointer>
-#include <QScreen>
-#include <QTimer>
 #include <QtTest>
+#include <QtWidgets>
 
 class TestToolTipLabel : public GuardedTest
 {
