@@ -1,23 +1,24 @@
 #include "gallerypage.h"
 #include "pagekit.h"
 
+#include <Vellum/CusScrollArea>
+#include <Vellum/CusScrollHoverPane>
+#include <Vellum/CusTabBar>
+#include <Vellum/CusTabWidget>
+#include <Vellum/CusWidget>
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
-#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMenuBar>
 #include <QPlainTextEdit>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
 #include <QSpinBox>
 #include <QSplitter>
-#include <QTabWidget>
-#include <QToolBar>
 
 namespace {
 
@@ -174,14 +175,14 @@ QSlider *slider(int value)
 
 QLayout *barsAndMenus()
 {
-    auto *progress = new QProgressBar;
+    auto *progress = new CusProgressBar;
     progress->setValue(62);
     progress->setFixedWidth(160);
-    auto *menus = new QMenuBar;
+    auto *menus = new CusMenuBar;
     for (const char *name : {"View", "Playback"})
         menus->addMenu(QString::fromLatin1(name))->addAction(QStringLiteral("Close"));
     menus->setFixedWidth(170);
-    auto *tools = new QToolBar;
+    auto *tools = new CusToolBar;
     for (const char *name : {"Live", "Replay", "Map"})
         tools->addAction(QString::fromLatin1(name));
     tools->insertSeparator(tools->actions().at(1));
@@ -198,11 +199,11 @@ QLayout *barsAndMenus()
 
 QWidget *panes()
 {
-    auto *tabs = new QTabWidget;
+    auto *tabs = new CusTabWidget;
     for (const char *name : {"Events", "Recordings", "Health"})
         tabs->addTab(new QLabel(QStringLiteral("  No event in this hour")),
                      QString::fromLatin1(name));
-    auto *group = new QGroupBox(QStringLiteral("Schedule"));
+    auto *group = new CusGroupBox(QStringLiteral("Schedule"));
     auto *column = new QVBoxLayout(group);
     column->addWidget(checked(new QCheckBox(QStringLiteral("Weekdays"))));
     column->addWidget(new QCheckBox(QStringLiteral("Weekend")));
@@ -217,6 +218,83 @@ QWidget *panes()
     splitter->addWidget(list);
     splitter->setFixedHeight(132);
     return splitter;
+}
+
+/// A small client window: menus and tools on top, a list that scrolls below a hovering pane.
+QWidget *smallWindow()
+{
+    auto *window = new CusMainWindow(nullptr, Qt::Widget);
+    auto *menus = new CusMenuBar;
+    for (const char *name : {"File", "View"})
+        menus->addMenu(QString::fromLatin1(name));
+    window->setMenuBar(menus);
+    auto *cameras = new QLabel;
+    QStringList names;
+    for (int number = 1; number <= 12; ++number)
+        names.append(QStringLiteral("  Camera %1").arg(number));
+    cameras->setText(names.join(QLatin1Char('\n')));
+    auto *area = new CusScrollArea;
+    area->setWidget(cameras);
+    area->setWidgetResizable(true);
+    auto *pane = new CusScrollHoverPane(area, true);
+    auto *line = new QHBoxLayout(pane);
+    line->setContentsMargins(8, 4, 8, 4);
+    line->addWidget(button(QStringLiteral("Add a camera"), "dense"));
+    pane->setObjectName(QStringLiteral("gallery_hoverPane"));
+    pane->show();
+    window->setCentralWidget(area);
+    window->setFixedSize(280, 168);
+    return window;
+}
+
+/// A dialog as part of a page.
+QWidget *smallDialog()
+{
+    auto *dialog = new CusDialog(nullptr, Qt::Widget);
+    auto *column = new QVBoxLayout(dialog);
+    column->addWidget(new QLabel(QStringLiteral("Delete 3 recordings?")));
+    column->addStretch(1);
+    auto *answers = new QHBoxLayout;
+    answers->addStretch(1);
+    answers->addWidget(button(QStringLiteral("Keep")));
+    answers->addWidget(button(QStringLiteral("Delete"), "button_danger"));
+    column->addLayout(answers);
+    dialog->setFixedSize(280, 168);
+    return dialog;
+}
+
+/// A frame with tabs of its own and a status line.
+QWidget *smallFrame()
+{
+    auto *frame = new CusFrame;
+    auto *column = new QVBoxLayout(frame);
+    auto *tabs = new CusTabBar(frame);
+    for (const char *name : {"Day", "Week", "Month"})
+        tabs->addTab(QString::fromLatin1(name));
+    tabs->setFixedHeight(32);
+    column->addWidget(tabs);
+    column->addWidget(new QLabel(QStringLiteral("42 events")));
+    column->addStretch(1);
+    auto *status = new CusWidget;
+    auto *line = new QHBoxLayout(status);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->addWidget(new QLabel(QStringLiteral("Storage")));
+    auto *used = new CusProgressBar;
+    used->setValue(81);
+    line->addWidget(used);
+    column->addWidget(status);
+    frame->setFixedSize(280, 168);
+    return frame;
+}
+
+QLayout *stylableBases()
+{
+    auto *line = new QHBoxLayout;
+    line->setSpacing(24);
+    for (QWidget *widget : {smallWindow(), smallDialog(), smallFrame()})
+        line->addWidget(widget);
+    line->addStretch(1);
+    return line;
 }
 
 class QtBasesPage : public QWidget
@@ -236,6 +314,9 @@ public:
         column->addWidget(PageKit::card(QStringLiteral("Fields"), fieldRows()));
         column->addWidget(PageKit::card(QStringLiteral("Sliders, bars and menus"), barsAndMenus()));
         column->addWidget(PageKit::card(QStringLiteral("Panes and lists"), panes()));
+        column->addWidget(PageKit::card(
+            QStringLiteral("Window, dialog and frame: CusMainWindow, CusDialog, CusFrame"),
+            stylableBases()));
     }
 };
 
