@@ -271,7 +271,7 @@ QWidget *smallFrame()
     auto *tabs = new CusTabBar(frame);
     for (const char *name : {"Day", "Week", "Month"})
         tabs->addTab(QString::fromLatin1(name));
-    tabs->setFixedHeight(32);
+    tabs->setFixedHeight(36);
     column->addWidget(tabs);
     column->addWidget(new QLabel(QStringLiteral("42 events")));
     column->addStretch(1);
