@@ -45,10 +45,13 @@ QByteArray toSvg(const qrcodegen::QrCode &code)
 {
     const int size = code.getSize();
     const QByteArray edge = QByteArray::number(size + 2 * kBorderModules);
+    // The ground reaches beyond the picture: an edge that only meets the last pixels would leave
+    // them half covered, and nothing else fills them.
+    const QByteArray ground = QByteArray::number(size + 2 * kBorderModules + 2);
     QByteArray svg = R"(<?xml version="1.0" encoding="UTF-8"?>)"
                      R"(<svg xmlns="http://www.w3.org/2000/svg" version="1.1" viewBox="0 0 )"
-        + edge + ' ' + edge + R"(" stroke="none"><rect width=")" + edge + R"(" height=")" + edge
-        + R"(" fill="#FFFFFF"/>)";
+        + edge + ' ' + edge + R"(" stroke="none"><rect x="-1" y="-1" width=")" + ground
+        + R"(" height=")" + ground + R"(" fill="#FFFFFF"/>)";
     // Each path takes the row above once more, which hides the seam between them.
     for (int row = 0; row < size; row += kRowsOfPath)
         svg += darkModulesPath(code, qMax(0, row - 1), qMin(size, row + kRowsOfPath));

@@ -69,6 +69,14 @@ void TestQrCode::borderIsOneModule()
     for (int i = 1; i <= 7; ++i) // the finder patterns
         QVERIFY(darkAt(i, 1) && darkAt(1, i) && darkAt(22 - i, 7) && darkAt(i, 21));
     QVERIFY(!darkAt(2, 2) && darkAt(3, 3));
+    for (int side : {101, 232, 233}) {
+        const QImage whole =
+            generateQRCode(QStringLiteral("camera 17"), QSize(side, side)).toImage();
+        for (int i = 0; i < side; ++i) {
+            QCOMPARE(whole.pixelColor(side - 1, i), QColor(Qt::white));
+            QCOMPARE(whole.pixelColor(i, side - 1), QColor(Qt::white));
+        }
+    }
 }
 
 void TestQrCode::neutralResults()
