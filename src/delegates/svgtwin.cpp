@@ -1,0 +1,31 @@
+#include "delegates/svgtwin.h"
+
+#include "buttons/cussvgpushbutton.h"
+#include "common/restyle.h"
+
+namespace vellum {
+
+std::shared_ptr<CusSvgPushButton> makeSvgTwin(const QString &objectName)
+{
+    auto twin = std::make_shared<CusSvgPushButton>();
+    twin->setObjectName(objectName);
+    return twin;
+}
+
+std::shared_ptr<CusSvgPushButton> makeCheckedSvgTwin(const QString &objectName)
+{
+    auto twin = makeSvgTwin(objectName);
+    twin->setCheckable(true);
+    twin->setChecked(true);
+    return twin;
+}
+
+void renameSvgTwin(CusSvgPushButton *twin, const QString &objectName)
+{
+    if (!twin || twin->objectName() == objectName)
+        return;
+    twin->setObjectName(objectName);
+    restyle(twin);
+}
+
+} // namespace vellum
