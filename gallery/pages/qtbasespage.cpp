@@ -20,13 +20,22 @@
 #include <QSpinBox>
 #include <QSplitter>
 
+#include <functional>
+
 namespace {
 
-QPushButton *button(const QString &text, const char *variant = nullptr)
+QPushButton *button(const QString &text, const char *look = nullptr)
 {
     auto *widget = new QPushButton(text);
-    if (variant)
-        widget->setProperty(variant, true);
+    widget->setProperty("look", QLatin1String(look));
+    return widget;
+}
+
+QPushButton *linkButton(const QString &text)
+{
+    auto *widget = new QPushButton(text);
+    widget->setObjectName(QStringLiteral("pushButton_link"));
+    widget->setProperty("button_labelLink", true);
     return widget;
 }
 
@@ -50,25 +59,26 @@ QLayout *buttonRows()
     auto *grid = new QGridLayout;
     grid->setHorizontalSpacing(12);
     grid->setVerticalSpacing(8);
-    const QVector<QPair<QString, const char *>> variants = {
-        {QStringLiteral("Plain"), nullptr},
-        {QStringLiteral("button_primary"), "button_primary"},
-        {QStringLiteral("button_danger"), "button_danger"},
-        {QStringLiteral("button_labelLink"), "button_labelLink"},
-        {QStringLiteral("dense"), "dense"},
+    const QString text = QStringLiteral("Save recording");
+    const QVector<QPair<QString, std::function<QPushButton *()>>> looks = {
+        {QStringLiteral("Plain"), [&text] { return button(text); }},
+        {QStringLiteral("look: primary"), [&text] { return button(text, "primary"); }},
+        {QStringLiteral("look: danger"), [&text] { return button(text, "danger"); }},
+        {QStringLiteral("look: dense"), [&text] { return button(text, "dense"); }},
+        {QStringLiteral("look: primary dense"), [&text] { return button(text, "primary dense"); }},
+        {QStringLiteral("pushButton_link"), [&text] { return linkButton(text); }},
     };
     const QStringList states = {QStringLiteral("Normal"), QStringLiteral("Checked"),
                                 QStringLiteral("Disabled"), QStringLiteral("Checked, disabled")};
     for (int i = 0; i < states.size(); ++i)
         grid->addWidget(PageKit::caption(states.at(i)), 0, i + 1);
-    for (int row = 0; row < variants.size(); ++row) {
-        const char *variant = variants.at(row).second;
-        const QString text = QStringLiteral("Save recording");
-        grid->addWidget(PageKit::caption(variants.at(row).first), row + 1, 0);
-        grid->addWidget(button(text, variant), row + 1, 1, Qt::AlignLeft);
-        grid->addWidget(checked(button(text, variant)), row + 1, 2, Qt::AlignLeft);
-        grid->addWidget(disabled(button(text, variant)), row + 1, 3, Qt::AlignLeft);
-        grid->addWidget(disabled(checked(button(text, variant))), row + 1, 4, Qt::AlignLeft);
+    for (int row = 0; row < looks.size(); ++row) {
+        const auto &make = looks.at(row).second;
+        grid->addWidget(PageKit::caption(looks.at(row).first), row + 1, 0);
+        grid->addWidget(make(), row + 1, 1, Qt::AlignLeft);
+        grid->addWidget(checked(make()), row + 1, 2, Qt::AlignLeft);
+        grid->addWidget(disabled(make()), row + 1, 3, Qt::AlignLeft);
+        grid->addWidget(disabled(checked(make())), row + 1, 4, Qt::AlignLeft);
     }
     grid->setColumnStretch(5, 1);
     return grid;
@@ -257,7 +267,7 @@ QWidget *smallDialog()
     auto *answers = new QHBoxLayout;
     answers->addStretch(1);
     answers->addWidget(button(QStringLiteral("Keep")));
-    answers->addWidget(button(QStringLiteral("Delete"), "button_danger"));
+    answers->addWidget(button(QStringLiteral("Delete"), "danger"));
     column->addLayout(answers);
     dialog->setFixedSize(280, 168);
     return dialog;

@@ -117,7 +117,7 @@ QWidget *RunLogCard::levelRow()
             new QPushButton(QStringLiteral("%1 %2").arg(QString::number(level), message.level));
         button->setCheckable(true);
         button->setChecked(level == RunLog_Warning);
-        button->setProperty("dense", true);
+        button->setProperty("look", QStringLiteral("dense"));
         group->addButton(button, level);
         buttons.append(button);
     }
@@ -132,7 +132,7 @@ QWidget *RunLogCard::messageRow()
     for (const Message &message : messages()) {
         const int level = buttons.size();
         auto *button = new QPushButton(message.level);
-        button->setProperty("dense", true);
+        button->setProperty("look", QStringLiteral("dense"));
         connect(button, &QPushButton::clicked, this, [this, level] { write(level); });
         buttons.append(button);
     }

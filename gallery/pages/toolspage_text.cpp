@@ -36,7 +36,7 @@ QWidget *choice(const QStringList &names, int checked, const std::function<void(
     for (const QString &name : names) {
         auto *button = new QPushButton(name);
         button->setCheckable(true);
-        button->setProperty("dense", true);
+        button->setProperty("look", QStringLiteral("dense"));
         group->addButton(button, buttons.size());
         buttons.append(button);
     }

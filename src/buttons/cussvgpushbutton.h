@@ -23,6 +23,17 @@ class QStyleOptionButton;
 class VELLUM_EXPORT CusSvgPushButton : public QPushButton
 {
     Q_OBJECT
+    Q_PROPERTY(int svgBGWidth READ getSvgBGWidth WRITE setSvgBGWidth)
+    Q_PROPERTY(int svgBGHeight READ getSvgBGHeight WRITE setSvgBGHeight)
+    Q_PROPERTY(int svgIconWidth READ getSvgIconWidth WRITE setSvgIconWidth)
+    Q_PROPERTY(int svgIconHeight READ getSvgIconHeight WRITE setSvgIconHeight)
+    Q_PROPERTY(int leftMargin READ getLeftMargin WRITE setLeftMargin)
+    Q_PROPERTY(int rightMargin READ getRightMargin WRITE setRightMargin)
+    Q_PROPERTY(int topMargin READ getTopMargin WRITE setTopMargin)
+    Q_PROPERTY(int bottomMargin READ getBottomMargin WRITE setBottomMargin)
+    Q_PROPERTY(BtnTxtPos txtPos READ getTxtPos WRITE setTxtPos)
+    Q_PROPERTY(BtnFlow btnFlow READ getBtnFlow WRITE setBtnFlow)
+    Q_PROPERTY(int svgTxtSpace READ getSvgTxtSpace WRITE setSvgTxtSpace)
     Q_PROPERTY(QString svgBGImage READ getSvgBGImage WRITE setSvgBGImage)
     Q_PROPERTY(QColor svgBGNormalColor READ getSvgBGNormalColor WRITE setSvgBGNormalColor)
     Q_PROPERTY(QString svgBGHoverImage READ getSvgBGHoverImage WRITE setSvgBGHoverImage)
@@ -47,8 +58,7 @@ class VELLUM_EXPORT CusSvgPushButton : public QPushButton
     Q_PROPERTY(QColor svgDisableColor READ getSvgDisableColor WRITE setSvgDisableColor)
     Q_PROPERTY(QString svgBorderSelectedImage READ getSvgSelectedImage WRITE setSvgSelectedImage)
     Q_PROPERTY(QColor svgSelectedColor READ getSvgSelectedColor WRITE setSvgSelectedColor)
-    Q_PROPERTY(QString svgIconImage READ getSvgIconImage WRITE setSvgIconImage)
-    Q_PROPERTY(QColor svgIconNormalColor READ getSvgIconNormalColor WRITE setSvgIconNormalColor)
+    // Qt looks a name up from the end, and most sheets set the icon.
     Q_PROPERTY(QString svgIconHoverImage READ getSvgIconHoverImage WRITE setSvgIconHoverImage)
     Q_PROPERTY(QColor svgIconHoverColor READ getSvgIconHoverColor WRITE setSvgIconHoverColor)
     Q_PROPERTY(QString svgIconPressedImage READ getSvgIconPressedImage WRITE setSvgIconPressedImage)
@@ -57,17 +67,8 @@ class VELLUM_EXPORT CusSvgPushButton : public QPushButton
     Q_PROPERTY(QColor svgIconCheckedColor READ getSvgIconCheckedColor WRITE setSvgIconCheckedColor)
     Q_PROPERTY(QString svgIconDisableImage READ getSvgIconDisableImage WRITE setSvgIconDisableImage)
     Q_PROPERTY(QColor svgIconDisableColor READ getSvgIconDisableColor WRITE setSvgIconDisableColor)
-    Q_PROPERTY(int svgBGWidth READ getSvgBGWidth WRITE setSvgBGWidth)
-    Q_PROPERTY(int svgBGHeight READ getSvgBGHeight WRITE setSvgBGHeight)
-    Q_PROPERTY(int svgIconWidth READ getSvgIconWidth WRITE setSvgIconWidth)
-    Q_PROPERTY(int svgIconHeight READ getSvgIconHeight WRITE setSvgIconHeight)
-    Q_PROPERTY(int leftMargin READ getLeftMargin WRITE setLeftMargin)
-    Q_PROPERTY(int rightMargin READ getRightMargin WRITE setRightMargin)
-    Q_PROPERTY(int topMargin READ getTopMargin WRITE setTopMargin)
-    Q_PROPERTY(int bottomMargin READ getBottomMargin WRITE setBottomMargin)
-    Q_PROPERTY(BtnTxtPos txtPos READ getTxtPos WRITE setTxtPos)
-    Q_PROPERTY(BtnFlow btnFlow READ getBtnFlow WRITE setBtnFlow)
-    Q_PROPERTY(int svgTxtSpace READ getSvgTxtSpace WRITE setSvgTxtSpace)
+    Q_PROPERTY(QColor svgIconNormalColor READ getSvgIconNormalColor WRITE setSvgIconNormalColor)
+    Q_PROPERTY(QString svgIconImage READ getSvgIconImage WRITE setSvgIconImage)
 
 public:
     /// Where the content sits in the button. Any other number, as a sheet may give it, is centred.

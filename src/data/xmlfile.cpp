@@ -5,6 +5,7 @@
 #include <QDomDocument>
 #include <QFile>
 #include <QFileInfo>
+#include <QResource>
 
 namespace {
 
@@ -45,6 +46,39 @@ bool hasAnyAttribute(const QDomElement &element, const QStringList &names)
                        [&element](const QString &name) { return element.hasAttribute(name); });
 }
 
+/// The bytes of a resource, without the file engines that QFile asks on the way: a sheet that sets
+/// a button's icon reads it at each polish. Null for all that isn't a plain resource with content.
+QByteArray resourceBytes(const QString &file)
+{
+    if (!file.startsWith(QLatin1String(":/")))
+        return {};
+    const QResource resource(file);
+    if (!resource.isValid() || resource.size() <= 0)
+        return {};
+    if (resource.compressionAlgorithm() != QResource::NoCompression)
+        return resource.uncompressedData();
+    // A copy, since the resource may be unregistered before the bytes are parsed.
+    return QByteArray(reinterpret_cast<const char *>(resource.data()), int(resource.size()));
+}
+
+/// The bytes of a file, empty for one above the size limit, and whether there is such a file.
+bool readBytes(const QString &file, QByteArray &bytes)
+{
+    bytes = resourceBytes(file);
+    if (bytes.isEmpty()) {
+        // Opening a pipe or a device would wait for its other end.
+        QFile source(file);
+        if (!QFileInfo(source).isFile() || !source.open(QIODevice::ReadOnly))
+            return false;
+        // A file that gives no size, as some made up by the system do, is read to its end.
+        const qint64 size = source.size() > 0 ? source.size() : kMaxFileSize + 1;
+        bytes = source.read(qMin(size, kMaxFileSize + 1));
+    }
+    if (bytes.size() > kMaxFileSize)
+        bytes.clear();
+    return true;
+}
+
 } // namespace
 
 struct XmlFile::Private
@@ -74,16 +108,9 @@ XmlFile &XmlFile::operator=(const XmlFile &other) = default;
 
 void XmlFile::readFile(const QString &file)
 {
-    // Opening a pipe or a device would wait for its other end.
-    QFile source(file);
-    if (!QFileInfo(source).isFile() || !source.open(QIODevice::ReadOnly))
-        return;
-    // A file that gives no size, as some made up by the system do, is read to its end.
-    const qint64 size = source.size() > 0 ? source.size() : kMaxFileSize + 1;
-    QByteArray bytes = source.read(qMin(size, kMaxFileSize + 1));
-    if (bytes.size() > kMaxFileSize)
-        bytes.clear();
-    d->document = std::make_shared<CusDomDocument>(bytes);
+    QByteArray bytes;
+    if (readBytes(file, bytes))
+        d->document = std::make_shared<CusDomDocument>(bytes);
 }
 
 QString XmlFile::getElementValue(const QString &tag)

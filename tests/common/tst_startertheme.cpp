@@ -185,9 +185,9 @@ void TestStarterTheme::sheetNamesOnlyIconsThatExistAndStartsWithTypeOrId()
 
 void TestStarterTheme::buttonStatesDiffer()
 {
-    for (const char *variant : {"plain", "button_primary", "button_danger"}) {
+    for (const char *look : {"plain", "primary", "danger"}) {
         QPushButton button;
-        button.setProperty(variant, true);
+        button.setProperty("look", QLatin1String(look));
         button.resize(100, 30);
         button.ensurePolished();
         const auto ground = [&button](QStyle::State state) {
@@ -204,11 +204,11 @@ void TestStarterTheme::buttonStatesDiffer()
         const QColor hover = ground(QStyle::State_Enabled | QStyle::State_MouseOver);
         const QColor pressed = ground(QStyle::State_Enabled | QStyle::State_Sunken);
         const QColor disabled = ground(QStyle::State_None);
-        QVERIFY2(luminance(hover) > luminance(normal), variant);
-        QVERIFY2(luminance(pressed) < luminance(normal), variant);
-        QVERIFY2(disabled != normal && disabled != pressed && disabled != hover, variant);
+        QVERIFY2(luminance(hover) > luminance(normal), look);
+        QVERIFY2(luminance(pressed) < luminance(normal), look);
+        QVERIFY2(disabled != normal && disabled != pressed && disabled != hover, look);
         for (const QColor &color : {normal, hover, pressed})
-            QVERIFY2(contrast(Qt::white, color) >= 4.5, variant);
+            QVERIFY2(contrast(Qt::white, color) >= 4.5, look);
     }
 }
 
