@@ -9,8 +9,7 @@ class QWidget;
 
 /// One page of the gallery. A page's file holds a static object of it, which registers the page:
 ///
-///     static const GalleryPage page{10, QStringLiteral("Buttons"), [] { return new ButtonsPage;
-///     }};
+///     static const GalleryPage page{order, QStringLiteral("Name"), [] { return new NamePage; }};
 ///
 /// The factory's widget is shown in a frame that scrolls where the page is higher than the window;
 /// it is built again after the theme changed, so a page keeps nothing outside its widget. Pictures

@@ -74,6 +74,18 @@ QFrame *card(const QString &title, QLayout *content)
     return frame;
 }
 
+QLayout *beside(const QVector<QFrame *> &cards)
+{
+    auto *line = new QHBoxLayout;
+    line->setSpacing(kGap);
+    for (QFrame *card : cards) {
+        // Keeps the titles on one line where the other card is higher.
+        static_cast<QVBoxLayout *>(card->layout())->addStretch(1);
+        line->addWidget(card, 1);
+    }
+    return line;
+}
+
 QLabel *caption(const QString &text)
 {
     auto *label = namedLabel(text, QStringLiteral("gallery_caption"));

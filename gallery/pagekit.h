@@ -24,6 +24,9 @@ QLabel *heading(const QString &text);
 QFrame *card(const QString &title, QWidget *content);
 QFrame *card(const QString &title, QLayout *content);
 
+/// Cards of one width and one height beside each other, their contents at the top.
+QLayout *beside(const QVector<QFrame *> &cards);
+
 /// A small line in the second text colour: a state's name, a unit, a remark. It wraps.
 QLabel *caption(const QString &text);
 

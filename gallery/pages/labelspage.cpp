@@ -112,12 +112,9 @@ LabelsPage::LabelsPage()
         QStringLiteral("What becomes of a text that doesn't fit, solved in three ways."));
     column->addWidget(
         PageKit::card(QStringLiteral("CusLabel: four overflow policies"), policies()));
-    auto *pair = new QHBoxLayout;
-    pair->setSpacing(16);
-    pair->addWidget(PageKit::card(QStringLiteral("RollLabel: marquee"), marquees()), 1);
-    pair->addWidget(
-        PageKit::card(QStringLiteral("CusEllipsisLabel: grows up to maxWidth"), ellipses()), 1);
-    column->addLayout(pair);
+    column->addLayout(PageKit::beside(
+        {PageKit::card(QStringLiteral("RollLabel: marquee"), marquees()),
+         PageKit::card(QStringLiteral("CusEllipsisLabel: grows up to maxWidth"), ellipses())}));
     column->addWidget(PageKit::card(
         QStringLiteral("CusLabel: tinted SVG background, pressed and released"), plates()));
 }

@@ -14,6 +14,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include <memory>
+
 namespace {
 
 constexpr QSize kSquare(40, 40);
@@ -221,18 +223,6 @@ QWidget *menuActions(QWidget *owner)
     return PageKit::row(cells, 16);
 }
 
-QLayout *sideBySide(QFrame *left, QFrame *right)
-{
-    auto *line = new QHBoxLayout;
-    line->setSpacing(16);
-    for (QFrame *card : {left, right}) {
-        // Keeps the titles on one line where the other card is higher.
-        static_cast<QVBoxLayout *>(card->layout())->addStretch(1);
-        line->addWidget(card, 1);
-    }
-    return line;
-}
-
 class SpecialButtonsPage : public QWidget
 {
 public:
@@ -243,13 +233,13 @@ public:
             QStringLiteral("SVG buttons that do more: badges, rotation, long press, tips."));
         column->addWidget(PageKit::card(QStringLiteral("Widths and icon sizes"), widthRow()));
         column->addLayout(
-            sideBySide(PageKit::card(QStringLiteral("Badges"), badges()),
-                       PageKit::card(QStringLiteral("Tap and long press"), longPress())));
+            PageKit::beside({PageKit::card(QStringLiteral("Badges"), badges()),
+                             PageKit::card(QStringLiteral("Tap and long press"), longPress())}));
         column->addWidget(
             PageKit::card(QStringLiteral("Rotation, by a press or by code"), rotation()));
-        column->addLayout(
-            sideBySide(PageKit::card(QStringLiteral("Tip on a click"), clickTip()),
-                       PageKit::card(QStringLiteral("Icons of menu actions"), menuActions(this))));
+        column->addLayout(PageKit::beside(
+            {PageKit::card(QStringLiteral("Tip on a click"), clickTip()),
+             PageKit::card(QStringLiteral("Icons of menu actions"), menuActions(this))}));
     }
 };
 

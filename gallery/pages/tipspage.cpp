@@ -19,8 +19,6 @@
 #include <QPushButton>
 #include <QWidget>
 
-#include <memory>
-
 namespace {
 
 constexpr int kGap = 16;
@@ -313,28 +311,18 @@ QWidget *emptyLists()
         kGap);
 }
 
-QWidget *sideBySide(const QString &leftTitle, QWidget *left, const QString &rightTitle,
-                    QWidget *right)
-{
-    auto *box = new QWidget;
-    auto *layout = new QHBoxLayout(box);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(kGap);
-    layout->addWidget(PageKit::card(leftTitle, left), 1);
-    layout->addWidget(PageKit::card(rightTitle, right), 1);
-    return box;
-}
-
 QWidget *tipsPage()
 {
     auto *page = new QWidget;
     QVBoxLayout *column = PageKit::pageLayout(
         page, tr("Tips"), tr("What a control says beside itself, and what stands in for content."));
-    column->addWidget(sideBySide(tr("Tool tips: rest the cursor on a camera"), toolTips(),
-                                 tr("Validation bubble"), validation()));
+    column->addLayout(
+        PageKit::beside({PageKit::card(tr("Tool tips: rest the cursor on a camera"), toolTips()),
+                         PageKit::card(tr("Validation bubble"), validation())}));
     column->addWidget(PageKit::card(tr("Arrow frames"), arrowFrames()));
-    column->addWidget(sideBySide(tr("Between two limits"), new LimitsStrip,
-                                 tr("A warning and the way out"), warningLine()));
+    column->addLayout(
+        PageKit::beside({PageKit::card(tr("Between two limits"), new LimitsStrip),
+                         PageKit::card(tr("A warning and the way out"), warningLine())}));
     column->addWidget(PageKit::card(tr("No content"), emptyLists()));
     return page;
 }

@@ -8,18 +8,6 @@
 
 namespace {
 
-constexpr int kGap = 16;
-
-/// Two cards of one height beside each other.
-QHBoxLayout *pair(QFrame *left, QFrame *right)
-{
-    auto *layout = new QHBoxLayout;
-    layout->setSpacing(kGap);
-    layout->addWidget(left, 1);
-    layout->addWidget(right, 1);
-    return layout;
-}
-
 class ToolsPage : public QWidget
 {
 public:
@@ -29,22 +17,22 @@ public:
             this, QStringLiteral("Tools"),
             QStringLiteral("Functions without a look of their own, at work on what an operator "
                            "would give them."));
-        column->addLayout(
-            pair(PageKit::card(QStringLiteral("QR code: generateQRCode"), ToolCards::qrCode()),
-                 PageKit::card(QStringLiteral("Word wrap: warpString"), ToolCards::wordWrap())));
+        column->addLayout(PageKit::beside(
+            {PageKit::card(QStringLiteral("QR code: generateQRCode"), ToolCards::qrCode()),
+             PageKit::card(QStringLiteral("Word wrap: warpString"), ToolCards::wordWrap())}));
         column->addWidget(
             PageKit::card(QStringLiteral("Frameless window: hitTest"), ToolCards::hitTestMap()));
-        column->addLayout(pair(
-            PageKit::card(QStringLiteral("Drag arithmetic: CusMousePressedMove, "
-                                         "judgeRectOutBounds"),
-                          ToolCards::drag()),
-            PageKit::card(QStringLiteral("Rich strings: RichString"), ToolCards::richString())));
-        column->addLayout(
-            pair(PageKit::card(QStringLiteral("Input marks: realCheckInvalid, "
-                                              "bindTextEditMaxLength"),
-                               ToolCards::inputMarks()),
-                 PageKit::card(QStringLiteral("Run log: CusUiCommonFun::outputClientRunLog"),
-                               ToolCards::runLog())));
+        column->addLayout(PageKit::beside(
+            {PageKit::card(QStringLiteral("Drag arithmetic: CusMousePressedMove, "
+                                          "judgeRectOutBounds"),
+                           ToolCards::drag()),
+             PageKit::card(QStringLiteral("Rich strings: RichString"), ToolCards::richString())}));
+        column->addLayout(PageKit::beside(
+            {PageKit::card(QStringLiteral("Input marks: realCheckInvalid, "
+                                          "bindTextEditMaxLength"),
+                           ToolCards::inputMarks()),
+             PageKit::card(QStringLiteral("Run log: CusUiCommonFun::outputClientRunLog"),
+                           ToolCards::runLog())}));
     }
 };
 
