@@ -17,7 +17,7 @@ int advance(const QLabel &label)
     return label.fontMetrics().horizontalAdvance(label.text());
 }
 
-/// What a stock label of the same size and margin draws for  text.
+/// What a stock label of the same size and margin draws for \a text.
 QImage pictureOf(const QLabel &label, const QString &text)
 {
     QLabel stock(text);
