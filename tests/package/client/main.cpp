@@ -21,9 +21,10 @@ int main(int argc, char **argv)
     button.resize(96, 30);
     QImage image(button.size(), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
+    const QImage blank = image;
     button.render(&image);
     QTextStream(stdout) << "theme " << (themed ? "found" : "absent") << ", main colour "
-                        << CusColorConfig::instance()->mainColor().name() << ", drawn "
-                        << button.width() << " by " << button.height() << '\n';
+                        << CusColorConfig::instance()->mainColor().name() << ", button "
+                        << (image == blank ? "missing" : "drawn") << '\n';
     return 0;
 }
