@@ -32,9 +32,11 @@ public:
     void ReportRuns(const std::vector<Run> &runs) override
     {
         for (const Run &run : runs) {
-            if (run.error_occurred)
+            if (run.error_occurred) {
+                failed = true;
                 std::fprintf(stderr, "%s: %s\n", run.benchmark_name().c_str(),
                              run.error_message.c_str());
+            }
             if (run.run_type == Run::RT_Aggregate && run.aggregate_name == "median")
                 medians[run.run_name.function_name + run.run_name.args] =
                     run.cpu_accumulated_time * 1e9 / double(run.iterations);
@@ -42,6 +44,7 @@ public:
     }
 
     std::map<std::string, double> medians;
+    bool failed = false;
 };
 
 double exponentOf(const std::vector<int64_t> &sizes, const std::vector<double> &times)
@@ -141,7 +144,9 @@ int main(int argc, char **argv)
                      {repetitions.data(), interleaving.data(), minTime.data()});
     int count = int(arguments.size());
     benchmark::Initialize(&count, arguments.data());
+    if (benchmark::ReportUnrecognizedArguments(count, arguments.data()))
+        return 1;
     MedianReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    return printTable(reporter.medians) ? 0 : 1;
+    const bool any = benchmark::RunSpecifiedBenchmarks(&reporter) > 0;
+    return printTable(reporter.medians) && any && !reporter.failed ? 0 : 1;
 }

@@ -33,8 +33,8 @@ public:
     {
         for (int i = 0; i < count; ++i) {
             QFile file(fileName(i));
-            if (file.open(QIODevice::WriteOnly))
-                file.write(iconBytes());
+            if (!file.open(QIODevice::WriteOnly) || file.write(iconBytes()) != iconBytes().size())
+                qFatal("can't write the icons");
         }
     }
 
