@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Draws the starter theme's icons: tools/draw-icons.py theme/icons
+"""Draws the starter theme's icons into theme/icons, or into the folder that is named.
 
 Every icon stands on a grid of 24 units and is made of strokes of 2 units with round caps and
 joins. Tinting rewrites `fill` and never `stroke`, so the strokes are written as closed outlines,
@@ -225,7 +225,8 @@ def document(name, path, color=WHITE):
 
 
 def main():
-    folder = pathlib.Path(sys.argv[1])
+    own = pathlib.Path(__file__).resolve().parent.parent / "theme" / "icons"
+    folder = pathlib.Path(sys.argv[1]) if len(sys.argv) > 1 else own
     folder.mkdir(parents=True, exist_ok=True)
     for name, path in ICONS.items():
         (folder / f"{name}.svg").write_text(document(name, path), encoding="utf-8")
