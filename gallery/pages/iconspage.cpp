@@ -73,8 +73,6 @@ public:
         }
     }
 
-    QString file(int row) const { return m_files.at(row); }
-
     void setFiles(const QStringList &files)
     {
         beginResetModel();
@@ -254,7 +252,6 @@ private:
     bool step();
     void showProgress();
 
-    QString m_folder;
     QStringList m_files;
     std::unique_ptr<IconWalker> m_walker;
     IconCounts m_counts;
@@ -400,7 +397,6 @@ void IconsPage::applyLook()
 
 void IconsPage::open(const QString &folder)
 {
-    m_folder = folder;
     m_files.clear();
     m_walker = std::make_unique<IconWalker>(folder);
     m_counts = IconCounts();
