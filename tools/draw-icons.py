@@ -145,6 +145,7 @@ ICONS = {
     "close": line(5, 5, 19, 19) + line(19, 5, 5, 19),
     "dome-camera": line(3, 6, 21, 6) + line(5, 6, 5, 12) + arc(12, 12, 7, 0, 180)
                    + line(19, 12, 19, 6) + dot(12, 12, 2.5),
+    "dot": circle(12, 12, 4.5),
     "download": line(12, 3, 12, 15) + line(7, 10, 12, 15, 17, 10) + TRAY,
     "drag": "".join(dot(x, y, 1.5) for x in (9, 15) for y in (6, 12, 18)),
     "edit": poly(4, 20, 4, 16, 16, 4, 20, 8, 8, 20) + line(13, 7, 17, 11),
