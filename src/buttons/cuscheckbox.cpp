@@ -126,6 +126,7 @@ void CusCheckBox::paintEvent(QPaintEvent * /*event*/)
     }
 
     QPainter painter(this);
+    painter.setLayoutDirection(layoutDirection());
     const QRect contents = style()->subElementRect(QStyle::SE_CheckBoxContents, &option, this);
     d->indicatorRect = indicatorRect(option);
     option.state &= ~(QStyle::State_Off | QStyle::State_On);
@@ -145,18 +146,29 @@ void CusCheckBox::paintEvent(QPaintEvent * /*event*/)
     }
 }
 
+bool CusCheckBox::hitButton(const QPoint &pos) const
+{
+    if (QCheckBox::hitButton(pos))
+        return true;
+    // The style knows the place of one centred line alone.
+    return d->checkLabelWordWrap && overWrapped(pos);
+}
+
+bool CusCheckBox::overWrapped(const QPoint &pos) const
+{
+    return d->indicatorRect.contains(pos) || d->labelRect.contains(pos);
+}
+
 void CusCheckBox::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton) {
         event->ignore();
         return;
     }
-    if (d->checkOnlyIndicator) {
+    if (d->checkOnlyIndicator && hitButton(event->pos())) {
         QStyleOptionButton option;
         initStyleOption(&option);
-        const QRect clickable =
-            style()->subElementRect(QStyle::SE_CheckBoxClickRect, &option, this);
-        if (clickable.contains(event->pos()) && !indicatorRect(option).contains(event->pos())) {
+        if (!indicatorRect(option).contains(event->pos())) {
             event->ignore();
             Q_EMIT signalLabelClicked();
             return;
@@ -177,7 +189,7 @@ void CusCheckBox::mouseMoveEvent(QMouseEvent *event)
     const QPointer<CusCheckBox> alive(this);
     QCheckBox::mouseMoveEvent(event);
     if (alive && d->checkLabelWordWrap)
-        setHovered(d->indicatorRect.contains(event->pos()) || d->labelRect.contains(event->pos()));
+        setHovered(overWrapped(event->pos()));
 }
 
 void CusCheckBox::leaveEvent(QEvent *event)

@@ -55,10 +55,12 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void leaveEvent(QEvent *event) override;
+    bool hitButton(const QPoint &pos) const override;
 
 private:
     QRect indicatorRect(const QStyleOptionButton &option) const;
     QRect wrappedLabelRect(const QStyleOptionButton &option) const;
+    bool overWrapped(const QPoint &pos) const;
     void takeLabelHeight(int height);
     void setHovered(bool hovered);
 
