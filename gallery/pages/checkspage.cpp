@@ -11,6 +11,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
+#include <QVariant>
 
 namespace {
 
@@ -138,9 +139,11 @@ QWidget *labelled(CusCheckBox *box, int width, const QString &caption)
 QLayout *labels()
 {
     const QString text = QStringLiteral("Keep the recordings of alarms until they are exported");
-    QVector<QWidget *> elided;
-    for (int width : {416, 240, 160, 96})
-        elided.append(labelled(new CusCheckBox(text), width, QStringLiteral("%1 px").arg(width)));
+    const QString second = QStringLiteral("Warn the operator by a message when motion is missed");
+    QVector<QWidget *> elided{
+        labelled(new CusCheckBox(text), 416, QStringLiteral("416 px")),
+        labelled(new CusCheckBox(text), 212, QStringLiteral("212 px, the rest as a tip")),
+        labelled(new CusCheckBox(second), 190, QStringLiteral("190 px, the rest as a tip"))};
 
     QVector<QWidget *> wrapped;
     for (int width : {240, 160}) {
@@ -168,10 +171,10 @@ QLayout *labels()
 
     auto *all = column();
     all->addWidget(PageKit::row(elided));
-    QWidget *second = PageKit::row(wrapped);
+    QWidget *below = PageKit::row(wrapped);
     for (QWidget *cell : wrapped)
-        second->layout()->setAlignment(cell, Qt::AlignTop);
-    all->addWidget(second);
+        below->layout()->setAlignment(cell, Qt::AlignTop);
+    all->addWidget(below);
     return all;
 }
 

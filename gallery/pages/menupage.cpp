@@ -81,7 +81,6 @@ CusMenu *cameraMenu(QWidget *owner)
     menu->addSeparator();
     addSvgAction(menu, QStringLiteral("gallery_menuTrash"), QStringLiteral("Remove from the view"),
                  QStringLiteral("Del"));
-    menu->addAction(QStringLiteral("Reboot the camera"))->setEnabled(false);
     return menu;
 }
 

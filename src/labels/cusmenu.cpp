@@ -235,14 +235,20 @@ void CusMenu::mouseMoveEvent(QMouseEvent *event)
     QMenu::mouseMoveEvent(event);
 }
 
+QMargins CusMenu::frameMargins() const
+{
+    const int panel = style()->pixelMetric(QStyle::PM_MenuPanelWidth, nullptr, this);
+    const int across = panel + style()->pixelMetric(QStyle::PM_MenuHMargin, nullptr, this);
+    const int down = panel + style()->pixelMetric(QStyle::PM_MenuVMargin, nullptr, this);
+    return {across, down, across, down};
+}
+
 QRect CusMenu::rowRect(QAction *action) const
 {
-    QRect rect = actionGeometry(action);
+    QRect row = actionGeometry(action);
     // Qt makes the rows as wide as the widest text, also where the menu may not be.
-    const int farthest = width() - 1 - qMax(0, rect.left());
-    if (rect.right() > farthest)
-        rect.setRight(farthest);
-    return rect;
+    row.setRight(qMin(row.right(), rect().marginsRemoved(frameMargins()).right()));
+    return row;
 }
 
 QRect CusMenu::rowsArea() const
@@ -255,13 +261,12 @@ QRect CusMenu::rowsArea() const
         return area;
     // A menu that is higher than the screen scrolls; the rows then end at its arrows.
     const auto last = std::find_if(all.rbegin(), all.rend(), visible);
-    const int frame = style()->pixelMetric(QStyle::PM_MenuPanelWidth, nullptr, this)
-        + style()->pixelMetric(QStyle::PM_MenuVMargin, nullptr, this);
+    const QRect inner = area.marginsRemoved(frameMargins());
     const int scroller = style()->pixelMetric(QStyle::PM_MenuScrollerHeight, nullptr, this);
     if (actionGeometry(*first).top() < 0)
-        area.setTop(frame + scroller);
+        area.setTop(inner.top() + scroller);
     if (actionGeometry(*last).bottom() >= height())
-        area.setBottom(height() - 1 - frame - scroller);
+        area.setBottom(inner.bottom() - scroller);
     return area;
 }
 
@@ -369,8 +374,7 @@ void CusMenu::drawMarks(QPainter *painter, const QStyleOptionMenuItem &option, c
                         const QAction *action)
 {
     QStyleOptionButton button;
-    static_cast<QStyleOption &>(button) = option;
-    button.type = QStyleOption::SO_Button;
+    button.initFrom(this);
     const auto stamp = [&](CusSvgPushButton *twin, const QRect &rect, QStyle::State state) {
         button.rect = rect;
         button.state = state;

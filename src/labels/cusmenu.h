@@ -74,6 +74,7 @@ protected:
 private:
     struct RowLayout;
     void widenFor(const QAction *action);
+    QMargins frameMargins() const;
     QRect rowRect(QAction *action) const;
     QRect rowsArea() const;
     bool holdsWidget(const QRect &row) const;

@@ -4,7 +4,6 @@
 #include <Vellum/CusCheckBox>
 #include <Vellum/CusPushButton>
 #include <Vellum/CusRadioButton>
-#include <Vellum/CusSvgPushButton>
 
 #include <QtTest>
 #include <QtWidgets>
@@ -15,18 +14,27 @@ namespace {
 
 const QString kLong = QStringLiteral("Keep the recordings of alarms until they are exported");
 
-/// The place of the indicator by the style, as a box of any class has it.
-QRect indicatorOf(const QAbstractButton &button, QStyle::SubElement element)
+/// What stands in the middle of a button's indicator.
+QString indicatorColor(QAbstractButton *button)
 {
     QStyleOptionButton option;
-    option.initFrom(&button);
-    option.text = button.text();
-    return button.style()->subElementRect(element, &option, &button);
+    option.initFrom(button);
+    const bool radio = qobject_cast<QRadioButton *>(button);
+    const QRect rect = button->style()->subElementRect(
+        radio ? QStyle::SE_RadioButtonIndicator : QStyle::SE_CheckBoxIndicator, &option, button);
+    return TestKit::renderAt(button).pixelColor(rect.center()).name();
 }
 
 QStringList textsOf(QWidget *widget)
 {
     return TestKit::drawnTexts([&](QPaintDevice *device) { widget->render(device); }, Qt::blue);
+}
+
+void waitFor(int milliseconds)
+{
+    bool done = false;
+    QTimer::singleShot(milliseconds, Qt::PreciseTimer, qApp, [&] { done = true; });
+    QTRY_VERIFY(done);
 }
 
 } // namespace
@@ -45,76 +53,47 @@ private Q_SLOTS:
             "#btn_checkBoxChecked, #btn_radioChecked { background: #00ff00 }"
             "#btn_checkBoxUnchecked, #btn_radioUnChecked { background: #ff0000 }"
             "#btn_checkBoxUnchecked:indeterminate { background: #ffff00 }"
-            "#btn_checkBoxChecked:hover, #btn_radioChecked:hover { background: #00ffff }"
+            "#btn_checkBoxChecked:hover { background: #00ffff }"
+            "#btn_checkBoxChecked:pressed, #btn_radioChecked:pressed { background: #ff00ff }"
             "#btn_checkBoxChecked:checked, #btn_radioChecked:checked { background: #000000 }"
             "#btn_checkBoxChecked:disabled, #btn_radioChecked:disabled { background: #008000 }"
             "CusSvgPushButton[alarm=\"true\"] { background: #800000 }"
             "#other { background: #ffffff }"));
     }
 
-    void labelsThatDontFitAreElided_data()
-    {
-        QTest::addColumn<QString>("type");
-        QTest::addColumn<int>("width");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QStringList>("starts");
-        for (const char *type : {"check", "radio", "push"}) {
-            const QString name = QString::fromLatin1(type);
-            QTest::addRow("%s, fits", type) << name << 900 << kLong << QStringList{kLong};
-            QTest::addRow("%s, too long", type)
-                << name << 160 << kLong << QStringList{QStringLiteral("Keep the")};
-            QTest::addRow("%s, two lines", type)
-                << name << 120 << QStringLiteral("Short\n") + kLong
-                << QStringList{QStringLiteral("Short"), QStringLiteral("Keep")};
-            QTest::addRow("%s, no room", type) << name << 0 << kLong << QStringList();
-        }
-    }
     void labelsThatDontFitAreElided()
     {
-        QFETCH(QString, type);
-        QFETCH(int, width);
-        QFETCH(QString, text);
-        QFETCH(QStringList, starts);
-        std::unique_ptr<QAbstractButton> button;
-        if (type == QLatin1String("check"))
-            button = std::make_unique<CusCheckBox>();
-        else if (type == QLatin1String("radio"))
-            button = std::make_unique<CusRadioButton>();
-        else
-            button = std::make_unique<CusPushButton>();
-        const bool fits = starts == QStringList{text};
-        button->setText(text);
-        button->resize(width, 40);
-        const QStringList shown = textsOf(button.get());
-        QCOMPARE(shown.size(), starts.size());
-        for (int i = 0; i < starts.size(); ++i)
-            QVERIFY2(shown.at(i).startsWith(starts.at(i)), qPrintable(shown.at(i)));
-        if (width > 0)
-            QCOMPARE(shown.last() == kLong, fits);
-        if (width == 0)
-            return;
-        QCOMPARE(button->toolTip(), fits ? QString() : text);
-        QCOMPARE(button->text(), text);
-
-        // Only the text button takes its tip back.
-        button->setText(QStringLiteral("Off"));
-        textsOf(button.get());
-        QCOMPARE(button->toolTip(), fits || type == QLatin1String("push") ? QString() : text);
-    }
-
-    void otherFixedWidthIsNotTheTexts()
-    {
-        CusPushButton button;
-        button.setText(kLong);
-        button.resize(button.fontMetrics().horizontalAdvance(kLong) + 60, 30);
-        for (const auto &row : QVector<QPair<int, bool>>{
-                 {0, true}, {50, true}, {200, false}, {std::numeric_limits<int>::min(), true}}) {
-            button.setOtherFixedWidth(row.first);
-            QCOMPARE(textsOf(&button) == QStringList{kLong}, row.second);
+        CusCheckBox check;
+        CusRadioButton radio;
+        CusPushButton push;
+        for (QAbstractButton *button : QVector<QAbstractButton *>{&check, &radio, &push}) {
+            button->setText(kLong);
+            button->resize(900, 40);
+            QCOMPARE(textsOf(button), QStringList{kLong});
+            QCOMPARE(button->toolTip(), QString());
+            const QString text = QStringLiteral("Short\n") + kLong;
+            button->setText(text);
+            button->resize(160, 40);
+            const QStringList shown = textsOf(button);
+            QCOMPARE(shown.size(), 2);
+            QVERIFY(shown.at(1).endsWith(QChar(0x2026))
+                    && kLong.startsWith(shown.at(1).chopped(1)));
+            QCOMPARE(button->toolTip(), text);
+            button->setText(QStringLiteral("Off"));
+            button->grab();
+            // Only the text button takes its tip back.
+            QCOMPARE(button->toolTip().isEmpty(), button == &push);
+            button->resize(0, 0);
+            textsOf(button);
         }
-        button.setOtherFixedWidth(std::numeric_limits<int>::max());
-        button.grab();
-        QCOMPARE(button.toolTip(), kLong);
+        push.setText(kLong);
+        push.resize(push.fontMetrics().horizontalAdvance(kLong) + 60, 30);
+        const int huge = std::numeric_limits<int>::max();
+        for (const auto &row : QVector<QPair<int, bool>>{
+                 {0, true}, {50, true}, {200, false}, {-huge - 1, true}, {huge, false}}) {
+            push.setOtherFixedWidth(row.first);
+            QCOMPARE(textsOf(&push) == QStringList{kLong}, row.second);
+        }
     }
 
     void indicatorIsTheTwinOfTheState()
@@ -122,59 +101,48 @@ private Q_SLOTS:
         CusCheckBox box(QStringLiteral("Record"));
         CusRadioButton radio(QStringLiteral("Record"));
         radio.setAutoExclusive(false);
-        const auto boxColor = [&] {
-            const QRect rect = indicatorOf(box, QStyle::SE_CheckBoxIndicator);
-            return TestKit::renderAt(&box).pixelColor(rect.center()).name();
+        const auto colors = [&] { return indicatorColor(&box) + indicatorColor(&radio); };
+        const auto each = [&](const std::function<void(QAbstractButton *)> &change) {
+            change(&box);
+            change(&radio);
         };
-        const auto radioColor = [&] {
-            const QRect rect = indicatorOf(radio, QStyle::SE_RadioButtonIndicator);
-            return TestKit::renderAt(&radio).pixelColor(rect.center()).name();
-        };
-        for (Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
-            box.setLayoutDirection(direction);
-            radio.setLayoutDirection(direction);
-            for (QAbstractButton *button : QVector<QAbstractButton *>{&box, &radio}) {
+        for (Qt::LayoutDirection direction : {Qt::RightToLeft, Qt::LeftToRight}) {
+            each([&](QAbstractButton *button) {
+                button->setLayoutDirection(direction);
                 button->resize(200, 30);
                 button->setChecked(false);
-            }
-            QCOMPARE(boxColor() + radioColor(), QStringLiteral("#ff0000#ff0000"));
-            box.setChecked(true);
-            radio.setChecked(true);
-            QCOMPARE(boxColor() + radioColor(), QStringLiteral("#00ff00#00ff00"));
+            });
+            QCOMPARE(colors(), QStringLiteral("#ff0000#ff0000"));
             box.setCheckState(Qt::PartiallyChecked);
-            QCOMPARE(boxColor(), QStringLiteral("#ffff00"));
+            QCOMPARE(indicatorColor(&box), QStringLiteral("#ffff00"));
             box.setTristate(false);
+            each([](QAbstractButton *button) { button->setChecked(true); });
+            QCOMPARE(colors(), QStringLiteral("#00ff00#00ff00"));
         }
-        box.setChecked(true);
-        box.setEnabled(false);
-        radio.setEnabled(false);
-        QCOMPARE(boxColor() + radioColor(), QStringLiteral("#008000#008000"));
-        box.setEnabled(true);
-        radio.setEnabled(true);
+        each([](QAbstractButton *button) {
+            QTest::mousePress(button, Qt::LeftButton, {}, QPoint(30, 15));
+        });
+        QCOMPARE(colors(), QStringLiteral("#ff00ff#ff00ff"));
+        each([](QAbstractButton *button) {
+            QTest::mouseRelease(button, Qt::LeftButton, Qt::NoModifier, QPoint(-9, -9));
+            button->setEnabled(false);
+        });
+        QCOMPARE(colors(), QStringLiteral("#008000#008000"));
+        each([](QAbstractButton *button) { button->setEnabled(true); });
 
-        QVERIFY(!box.setProperty("alarm", true));
-        QVERIFY(!radio.setProperty("alarm", true));
-        QCOMPARE(boxColor() + radioColor(), QStringLiteral("#00ff00#00ff00"));
+        QVERIFY(!box.setProperty("alarm", true) && !box.setProperty(nullptr, 1));
         box.setCheckBoxBtnObjectName(QStringLiteral("plain"), QStringLiteral("other"));
         radio.setRadioButtonBtnObjectName(QStringLiteral("plain"), QStringLiteral("other"));
-        QCOMPARE(boxColor() + radioColor(), QStringLiteral("#800000#800000"));
+        QCOMPARE(colors(), QStringLiteral("#800000#808080"));
         box.setProperty("alarm", false);
-        QCOMPARE(boxColor() + radioColor(), QStringLiteral("#808080#800000"));
-        box.setChecked(false);
-        radio.setChecked(false);
-        QCOMPARE(boxColor() + radioColor(), QStringLiteral("#ffffff#ffffff"));
-
-        QVERIFY(box.setProperty("text", QStringLiteral("Other")));
-        QCOMPARE(box.text(), QStringLiteral("Other"));
-        box.setProperty(nullptr, 1);
-        const int windows = QApplication::topLevelWidgets().size();
+        each([](QAbstractButton *button) { button->setChecked(false); });
+        QCOMPARE(colors(), QStringLiteral("#ffffff#ffffff"));
+        // The hidden buttons stay hidden.
         box.setProperty("visible", true);
-        radio.setProperty("visible", true);
-        int visible = 0;
-        for (const QWidget *widget : QApplication::topLevelWidgets())
-            visible += widget->isVisible();
-        QCOMPARE(visible, 2);
-        QCOMPARE(QApplication::topLevelWidgets().size(), windows);
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        QCOMPARE(std::count_if(windows.begin(), windows.end(),
+                               [](const QWidget *window) { return window->isVisible(); }),
+                 1);
     }
 
     void keyboardAndAccessibilityAreTheBases()
@@ -182,88 +150,71 @@ private Q_SLOTS:
         QWidget window;
         auto *layout = new QVBoxLayout(&window);
         CusCheckBox box(QStringLiteral("&Sound"));
-        CusRadioButton first(QStringLiteral("First")), second(QStringLiteral("Second"));
+        CusRadioButton first(QStringLiteral("Main")), second(QStringLiteral("Sub"));
         CusPushButton push;
-        push.setText(QStringLiteral("Export"));
-        const struct
-        {
-            QAbstractButton *button;
-            QAccessible::Role role;
-            QString name;
-        } rows[] = {{&box, QAccessible::CheckBox, QStringLiteral("Sound")},
-                    {&first, QAccessible::RadioButton, QStringLiteral("First")},
-                    {&second, QAccessible::RadioButton, QStringLiteral("Second")},
-                    {&push, QAccessible::Button, QStringLiteral("Export")}};
-        for (const auto &row : rows) {
-            layout->addWidget(row.button);
-            QAccessibleInterface *face = QAccessible::queryAccessibleInterface(row.button);
-            QCOMPARE(face->role(), row.role);
-            QCOMPARE(face->text(QAccessible::Name), row.name);
-            QCOMPARE(row.button->focusPolicy(), Qt::StrongFocus);
+        const QVector<QPair<QAbstractButton *, QAccessible::Role>> roles{
+            {&box, QAccessible::CheckBox},
+            {&first, QAccessible::RadioButton},
+            {&second, QAccessible::RadioButton},
+            {&push, QAccessible::Button}};
+        for (const auto &role : roles) {
+            layout->addWidget(role.first);
+            QCOMPARE(QAccessible::queryAccessibleInterface(role.first)->role(), role.second);
         }
+        QAccessibleInterface *face = QAccessible::queryAccessibleInterface(&box);
+        QCOMPARE(face->text(QAccessible::Name), QStringLiteral("Sound"));
         window.show();
         QApplication::setActiveWindow(&window);
         QVERIFY(QTest::qWaitForWindowActive(&window));
         QSignalSpy clicks(&push, &QPushButton::clicked);
         QSignalSpy checked(&second, &CusRadioButton::checked);
-        box.setFocus();
         QTest::keyClick(&box, Qt::Key_Space);
-        QVERIFY(box.isChecked());
-        QVERIFY(QAccessible::queryAccessibleInterface(&box)->state().checked);
+        QVERIFY(face->state().checked);
         first.setChecked(true);
         first.setFocus();
         QTest::keyClick(&first, Qt::Key_Down);
-        QVERIFY(second.isChecked());
-        QVERIFY(second.hasFocus());
-        QCOMPARE(checked.count(), 1);
+        QVERIFY(second.isChecked() && second.hasFocus());
         QTest::keyClick(&second, Qt::Key_Up);
         QCOMPARE(checked.count(), 1);
         QTest::keyClick(&push, Qt::Key_Space);
         QCOMPARE(clicks.count(), 1);
     }
 
-    void onlyTheIndicatorToggles_data()
-    {
-        QTest::addColumn<bool>("only");
-        QTest::addColumn<bool>("wrap");
-        QTest::addColumn<QPoint>("place");
-        QTest::addColumn<int>("button");
-        QTest::addColumn<bool>("toggles");
-        QTest::addColumn<int>("labelClicks");
-        const int left = Qt::LeftButton;
-        const QPoint label(60, 20), indicator(8, 20), top(8, 6);
-        QTest::newRow("label of a common box") << false << false << label << left << true << 0;
-        QTest::newRow("label") << true << false << label << left << false << 1;
-        QTest::newRow("indicator") << true << false << indicator << left << true << 0;
-        QTest::newRow("other button")
-            << true << false << label << int(Qt::RightButton) << false << 0;
-        QTest::newRow("outside the box") << true << false << QPoint(500, 5) << left << false << 0;
-        QTest::newRow("indicator at the first line") << true << true << top << left << true << 0;
-        QTest::newRow("second line") << true << true << QPoint(60, 34) << left << false << 1;
-        QTest::newRow("second line of a common box")
-            << false << true << QPoint(60, 34) << left << true << 0;
-    }
     void onlyTheIndicatorToggles()
     {
-        QFETCH(bool, only);
-        QFETCH(bool, wrap);
-        QFETCH(QPoint, place);
-        QFETCH(int, button);
-        QFETCH(bool, toggles);
-        QFETCH(int, labelClicks);
-        CusCheckBox box(kLong);
-        box.setCheckOnlyIndicator(only);
-        box.setCheckLabelWordWrap(wrap);
-        box.resize(120, 40);
-        box.grab();
-        QSignalSpy clicks(&box, &CusCheckBox::signalLabelClicked);
-        QMouseEvent press(QEvent::MouseButtonPress, place, Qt::MouseButton(button),
-                          Qt::MouseButton(button), Qt::NoModifier);
-        QApplication::sendEvent(&box, &press);
-        QCOMPARE(press.isAccepted(), toggles);
-        QTest::mouseRelease(&box, Qt::MouseButton(button), Qt::NoModifier, place);
-        QCOMPARE(box.isChecked(), toggles);
-        QCOMPARE(clicks.count(), labelClicks);
+        const QPoint label(60, 20), firstLine(8, 6), secondLine(60, 34);
+        const struct
+        {
+            bool only, wrap;
+            QPoint place;
+            Qt::MouseButton button;
+            bool toggles;
+            int labelClicks;
+        } rows[] = {
+            {false, false, label, Qt::LeftButton, true, 0},
+            {false, false, label, Qt::RightButton, false, 0},
+            {true, false, label, Qt::LeftButton, false, 1},
+            {true, false, label, Qt::RightButton, false, 0},
+            {true, false, QPoint(8, 20), Qt::LeftButton, true, 0},
+            {true, false, QPoint(500, 5), Qt::LeftButton, false, 0},
+            {true, true, firstLine, Qt::LeftButton, true, 0},
+            {true, true, secondLine, Qt::LeftButton, false, 1},
+            {false, true, secondLine, Qt::LeftButton, true, 0},
+        };
+        for (const auto &row : rows) {
+            CusCheckBox box(kLong);
+            box.setCheckOnlyIndicator(row.only);
+            box.setCheckLabelWordWrap(row.wrap);
+            box.resize(120, 40);
+            box.grab();
+            QSignalSpy clicks(&box, &CusCheckBox::signalLabelClicked);
+            QMouseEvent press(QEvent::MouseButtonPress, row.place, row.button, row.button, {});
+            QApplication::sendEvent(&box, &press);
+            QTest::mouseRelease(&box, row.button, Qt::NoModifier, row.place);
+            QCOMPARE(press.isAccepted(), row.toggles);
+            QCOMPARE(box.isChecked(), row.toggles);
+            QCOMPARE(clicks.count(), row.labelClicks);
+        }
     }
 
     void wrappedLabelGivesTheHeight()
@@ -272,7 +223,6 @@ private Q_SLOTS:
         auto *box = new CusCheckBox(kLong, &window);
         box->setChecked(true);
         box->setCheckLabelWordWrap(true);
-        QCOMPARE(box->getCheckLabelHeight(), 0);
         const int line = box->fontMetrics().lineSpacing();
         int lower = 0;
         for (int width : {600, 200, 100}) {
@@ -285,57 +235,38 @@ private Q_SLOTS:
         QVERIFY(box->toolTip().isEmpty());
 
         // Indicator and label light up together, and nothing else does.
-        const auto colorAfterMove = [box](const QPoint &place) {
-            QMouseEvent move(QEvent::MouseMove, place, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        const auto hovered = [&](const QPoint &place) {
+            QMouseEvent move(QEvent::MouseMove, place, Qt::NoButton, Qt::NoButton, {});
             QApplication::sendEvent(box, &move);
-            return TestKit::renderAt(box).pixelColor(8, 10).name();
+            return TestKit::renderAt(box).pixelColor(8, 10) == QColor(0x00ffff);
         };
-        const QString plain = QStringLiteral("#00ff00"), hovered = QStringLiteral("#00ffff");
-        QCOMPARE(colorAfterMove(QPoint(40, line)), hovered);
-        QCOMPARE(colorAfterMove(QPoint(8, box->height() - 2)), plain);
-        QCOMPARE(colorAfterMove(QPoint(8, 10)), hovered);
+        QVERIFY(hovered(QPoint(40, line)));
+        QVERIFY(!hovered(QPoint(8, box->height() - 2)));
+        QVERIFY(hovered(QPoint(8, 10)));
         QEvent leave(QEvent::Leave);
         QApplication::sendEvent(box, &leave);
-        QCOMPARE(TestKit::renderAt(box).pixelColor(8, 10).name(), plain);
-
         box->setLayoutDirection(Qt::RightToLeft);
-        const QImage mirrored = TestKit::renderAt(box);
-        QCOMPARE(mirrored.pixelColor(box->width() - 8, 10).name(), plain);
-        QVERIFY(TestKit::inkExtent(mirrored).right() >= box->width() - 16);
-        QVERIFY(!textsOf(box).isEmpty());
+        QCOMPARE(TestKit::renderAt(box).pixelColor(box->width() - 8, 10), QColor(0x00ff00));
 
-        box->setText(QString());
-        box->grab();
-        QVERIFY(box->height() < 2 * line);
-        box->setCheckLabelWordWrap(false);
-        QCOMPARE(box->maximumHeight(), QWIDGETSIZE_MAX);
-        box->setCheckLabelWordWrap(true);
         box->setText(QString(200000, QLatin1Char('\n')));
         box->grab();
         QCOMPARE(box->height(), box->getCheckLabelHeight());
+        box->setCheckLabelWordWrap(false);
+        QCOMPARE(box->maximumHeight(), QWIDGETSIZE_MAX);
     }
 
     void radioChecksInSilence()
     {
         CusRadioButton radio;
-        QSignalSpy toggled(&radio, &QAbstractButton::toggled);
-        QSignalSpy checked(&radio, &CusRadioButton::checked);
         radio.setAutoExclusive(false);
-        for (bool blocked : {false, true}) {
+        QSignalSpy toggled(&radio, &QAbstractButton::toggled);
+        for (bool blocked : {true, false}) {
             radio.blockSignals(blocked);
-            for (bool on : {true, false}) {
-                radio.setCheckedNoSignal(on);
-                QCOMPARE(radio.isChecked(), on);
-                QCOMPARE(radio.signalsBlocked(), blocked);
-            }
+            radio.setCheckedNoSignal(!radio.isChecked());
+            QCOMPARE(radio.isChecked(), blocked);
+            QCOMPARE(radio.signalsBlocked(), blocked);
         }
-        QCOMPARE(toggled.count() + checked.count(), 0);
-        radio.blockSignals(false);
-        radio.setChecked(true);
-        radio.setChecked(true);
-        radio.setChecked(false);
-        QCOMPARE(toggled.count(), 2);
-        QCOMPARE(checked.count(), 1);
+        QCOMPARE(toggled.count(), 0);
     }
 
     void longPressIsReportedOnce()
@@ -343,39 +274,23 @@ private Q_SLOTS:
         CusPushButton button;
         button.setCheckable(true);
         button.setChecked(true);
-        QSignalSpy pressed(&button, &CusPushButton::signalBtnLongPressed);
-        QCOMPARE(button.getLongPressInternal(), 300);
+        button.setEnableLongPress(true);
         button.setLongPressInternal(-5);
         QCOMPARE(button.getLongPressInternal(), 1);
-        const auto wait = [] {
-            bool done = false;
-            QTimer::singleShot(30, Qt::PreciseTimer, qApp, [&] { done = true; });
-            QTRY_VERIFY(done);
-        };
-
-        QTest::mousePress(&button, Qt::LeftButton);
-        wait();
-        QTest::mouseRelease(&button, Qt::LeftButton);
-        QCOMPARE(pressed.count(), 0);
-        button.setEnableLongPress(true);
-        button.setChecked(true);
+        QSignalSpy pressed(&button, &CusPushButton::signalBtnLongPressed);
         QTest::mousePress(&button, Qt::LeftButton);
         QTRY_COMPARE(pressed.count(), 1);
-        QCOMPARE(pressed.takeFirst().first().toBool(), true);
-        wait();
+        waitFor(20);
         QTest::mouseRelease(&button, Qt::LeftButton);
-        QCOMPARE(button.isChecked(), false);
         QTest::keyPress(&button, Qt::Key_Space);
-        QTRY_COMPARE(pressed.count(), 1);
+        QTRY_COMPARE(pressed.count(), 2);
         QTest::keyRelease(&button, Qt::Key_Space);
-        QCOMPARE(pressed.takeFirst().first().toBool(), false);
+        QCOMPARE(pressed.at(0).first().toBool(), true);
+        QCOMPARE(pressed.at(1).first().toBool(), false);
 
         const QVector<std::function<void()>> ends{
             [&] { QTest::mouseRelease(&button, Qt::LeftButton); },
-            [&] {
-                QTest::mouseMove(&button, QPoint(-50, -50));
-                button.setDown(false);
-            },
+            [&] { button.setDown(false); },
             [&] { button.setEnableLongPress(false); },
             [&] { button.hide(); },
         };
@@ -384,12 +299,9 @@ private Q_SLOTS:
             button.setEnableLongPress(true);
             QTest::mousePress(&button, Qt::LeftButton);
             end();
-            wait();
-            QTest::mouseRelease(&button, Qt::LeftButton);
+            waitFor(20);
         }
-        QTest::mouseClick(&button, Qt::RightButton);
-        wait();
-        QCOMPARE(pressed.count(), 0);
+        QCOMPARE(pressed.count(), 2);
     }
 
     void clientsMayDeleteInASignal()
@@ -400,18 +312,12 @@ private Q_SLOTS:
         connect(box, &CusCheckBox::signalLabelClicked, [&] { delete box; });
         QTest::mousePress(box, Qt::LeftButton, Qt::NoModifier, QPoint(100, 15));
         QVERIFY(!box);
-
-        for (bool longPress : {false, true}) {
-            QPointer<CusPushButton> push = new CusPushButton;
-            push->setEnableLongPress(true);
-            push->setLongPressInternal(1);
-            if (longPress)
-                connect(push, &CusPushButton::signalBtnLongPressed, [&] { delete push; });
-            else
-                connect(push, &QPushButton::pressed, [&] { delete push; });
-            QTest::mousePress(push, Qt::LeftButton);
-            QTRY_VERIFY(!push);
-        }
+        QPointer<CusPushButton> push = new CusPushButton;
+        push->setEnableLongPress(true);
+        push->setLongPressInternal(1);
+        connect(push, &CusPushButton::signalBtnLongPressed, [&] { delete push; });
+        QTest::mousePress(push, Qt::LeftButton);
+        QTRY_VERIFY(!push);
     }
 };
 
