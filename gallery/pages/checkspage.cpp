@@ -178,12 +178,11 @@ QLayout *labels()
     return all;
 }
 
-CusPushButton *textButton(const QString &text, const char *role = nullptr, bool enabled = true)
+CusPushButton *textButton(const QString &text, const QString &look = QString(), bool enabled = true)
 {
     auto *button = new CusPushButton;
     button->setText(text);
-    if (role)
-        button->setProperty(role, true);
+    button->setProperty("look", look);
     button->setEnabled(enabled);
     button->setOtherFixedWidth(34);
     return button;
@@ -193,11 +192,11 @@ QLayout *textButtons()
 {
     QVector<QWidget *> kinds{
         PageKit::captioned(textButton(QStringLiteral("Cancel")), QStringLiteral("Plain")),
-        PageKit::captioned(textButton(QStringLiteral("Export"), "button_primary"),
+        PageKit::captioned(textButton(QStringLiteral("Export"), QStringLiteral("primary")),
                            QStringLiteral("Primary")),
-        PageKit::captioned(textButton(QStringLiteral("Delete"), "button_danger"),
+        PageKit::captioned(textButton(QStringLiteral("Delete"), QStringLiteral("danger")),
                            QStringLiteral("Danger")),
-        PageKit::captioned(textButton(QStringLiteral("Export"), "button_primary", false),
+        PageKit::captioned(textButton(QStringLiteral("Export"), QStringLiteral("primary"), false),
                            QStringLiteral("Disabled"))};
     for (int width : {224, 152, 96}) {
         auto *button = textButton(QStringLiteral("Export the selected clips"));

@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kWrappedIndicatorY = 2;
 constexpr int kUnboundedHeight = 65536;
-constexpr int kWrapFlags = Qt::TextWordWrap | Qt::AlignTop | Qt::AlignLeft;
+constexpr int kWrapFlags = int(Qt::TextWordWrap) | int(Qt::AlignTop) | int(Qt::AlignLeft);
 
 } // namespace
 
