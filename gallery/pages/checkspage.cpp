@@ -172,7 +172,7 @@ QLayout *labels()
     auto *all = column();
     all->addWidget(PageKit::row(elided));
     QWidget *below = PageKit::row(wrapped);
-    for (QWidget *cell : wrapped)
+    for (QWidget *cell : qAsConst(wrapped))
         below->layout()->setAlignment(cell, Qt::AlignTop);
     all->addWidget(below);
     return all;
