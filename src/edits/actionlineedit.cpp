@@ -38,13 +38,15 @@ struct ActionLineEdit::Private
     QSet<QObject *> leading;
     QSet<QObject *> trailing;
     bool filterPaste = true;
+    bool ownMargins = false;
 
     bool forget(QObject *widget) { return leading.remove(widget) + trailing.remove(widget) > 0; }
-    void applyMargins(QFrame *frame) const;
+    void applyMargins(QFrame *frame);
 };
 
-void ActionLineEdit::Private::applyMargins(QFrame *frame) const
+void ActionLineEdit::Private::applyMargins(QFrame *frame)
 {
+    ownMargins = true;
     frame->setContentsMargins(leading.isEmpty() ? 0 : kActionMargin, 0,
                               trailing.isEmpty() ? 0 : kActionMargin, 0);
 }
@@ -156,6 +158,17 @@ bool ActionLineEdit::eventFilter(QObject *watched, QEvent *event)
 void ActionLineEdit::lineEditFocusIn() { }
 
 void ActionLineEdit::lineEidtFocusOut() { }
+
+bool ActionLineEdit::event(QEvent *event)
+{
+    const bool handled = QFrame::event(event);
+    // Then QFrame sets the margins by the width of its border; the edit would jump at each change
+    // of the focus.
+    if ((event->type() == QEvent::StyleChange || event->type() == QEvent::ParentChange)
+        && d->ownMargins)
+        d->applyMargins(this);
+    return handled;
+}
 
 /// A widget that was deleted or given away no longer counts.
 void ActionLineEdit::childEvent(QChildEvent *event)

@@ -66,6 +66,7 @@ protected:
     /// The edit lost the focus. Does nothing here.
     virtual void lineEidtFocusOut();
 
+    bool event(QEvent *event) override;
     void childEvent(QChildEvent *event) override;
 
 private:

@@ -102,10 +102,9 @@ CusSvgPushButton *CusLineEdit::Private::addButton(CusLineEdit *edit, QWidgetActi
 void CusLineEdit::Private::showTrailButton(bool visible)
 {
     // Hiding an action alone would leave its widget in the edit.
-    const QPointer<CusSvgPushButton> button = trailBtn;
     trailAction->setVisible(visible);
-    if (button)
-        button->setVisible(visible);
+    if (trailBtn)
+        trailBtn->setVisible(visible);
 }
 
 CusLineEdit::CusLineEdit(QWidget *parent)
@@ -321,11 +320,8 @@ QMenu *CusLineEdit::createStandardContextMenu()
 
 void CusLineEdit::mousePressEvent(QMouseEvent *event)
 {
-    // What the client does with a change of the selection may delete the edit.
-    const QPointer<CusLineEdit> alive(this);
     QLineEdit::mousePressEvent(event);
-    if (alive)
-        Q_EMIT signalMousePressed();
+    Q_EMIT signalMousePressed();
 }
 
 void CusLineEdit::keyPressEvent(QKeyEvent *event)
@@ -368,23 +364,19 @@ bool CusLineEdit::dealLeftRightKeyPress(QKeyEvent *event)
     if (!event || (event->key() != Qt::Key_Left && event->key() != Qt::Key_Right)
         || event->modifiers() == Qt::ShiftModifier || !hasSelectedText() || text().isEmpty())
         return false;
-    const QPointer<CusLineEdit> alive(this);
     setCursorPosition(event->key() == Qt::Key_Left ? selectionStart()
                                                    : selectionStart() + selectionLength());
-    if (alive)
-        deselect();
+    deselect();
     event->accept();
     return true;
 }
 
 void CusLineEdit::onTextChanged(const QString &text)
 {
-    const QPointer<CusLineEdit> alive(this);
     if (d->overlong)
         onApplyTimeout();
-    if (alive)
-        Q_EMIT textChangedSimpled(d->simple(text));
-    if (alive && d->enableNoTextNotShowTrailBtn && d->surpotTrailBtn && d->trailAction)
+    Q_EMIT textChangedSimpled(d->simple(text));
+    if (d->enableNoTextNotShowTrailBtn && d->surpotTrailBtn && d->trailAction)
         d->showTrailButton(!text.isEmpty());
 }
 
@@ -403,17 +395,14 @@ void CusLineEdit::onApplyTimeout()
     if (limit == maxLength())
         return;
     // Qt sets the text anew with a limit, and so loses what the user did until now.
-    const QPointer<CusLineEdit> alive(this);
     const int cursor = cursorPosition();
-    const int anchor = selectionStart();
-    const int selected = cursor == anchor ? -selectionLength() : selectionLength();
+    const int start = selectionStart();
+    const int selected = cursor == start ? -selectionLength() : selectionLength();
     const bool modified = isModified();
     QLineEdit::setMaxLength(limit);
-    if (alive)
-        setModified(modified);
-    if (alive)
-        setCursorPosition(cursor);
-    if (alive && anchor >= 0)
+    setModified(modified);
+    setCursorPosition(cursor);
+    if (start >= 0)
         setSelection(cursor - selected, selected);
 }
 
@@ -435,9 +424,7 @@ void CusLineEdit::deleteSelectedText()
     }
     if (index < 0)
         return;
-    const QPointer<CusLineEdit> alive(this);
     rest.remove(index, selected.size());
     setText(rest);
-    if (alive)
-        setCursorPosition(cursor);
+    setCursorPosition(cursor);
 }
