@@ -123,4 +123,13 @@ QLabel *signalLine(const QString &text)
     return namedLabel(text, QStringLiteral("gallery_signal"));
 }
 
+QLabel *pictureOf(QWidget *window)
+{
+    // Some tips find their place at the first paint and draw all at the second.
+    window->grab();
+    auto *picture = new QLabel;
+    picture->setPixmap(window->grab());
+    return picture;
+}
+
 } // namespace PageKit

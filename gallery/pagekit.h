@@ -40,4 +40,7 @@ QWidget *row(const QVector<QWidget *> &widgets, int spacing = 24);
 /// The line on which a page shows the latest signal of its controls.
 QLabel *signalLine(const QString &text = QString());
 
+/// What \a window paints, as a label, so that a tip or a menu stands still on the page.
+QLabel *pictureOf(QWidget *window);
+
 } // namespace PageKit

@@ -28,21 +28,11 @@ QString tr(const char *text)
     return QCoreApplication::translate("TipsPage", text);
 }
 
-/// What \a window paints, as a label, so that a tip stands still on the page.
-QLabel *pictureOf(QWidget *window)
-{
-    // Some tips find their place at the first paint and draw all at the second.
-    window->grab();
-    auto *picture = new QLabel;
-    picture->setPixmap(window->grab());
-    return picture;
-}
-
 QLabel *toolTipPicture(const QString &text)
 {
     ToolTipLabel tip;
     tip.updateSize(text);
-    return pictureOf(&tip);
+    return PageKit::pictureOf(&tip);
 }
 
 /// Shows its tip when the cursor rests on it.
@@ -190,7 +180,7 @@ QWidget *bubblePicture()
     AngleTiPWidget bubble(ArrowWidget::Arrow_Left);
     bubble.setTipRightBottomPoint(QPoint(500, 500));
     bubble.setShowText(tr("Please input 64~8192."));
-    QLabel *picture = pictureOf(&bubble);
+    QLabel *picture = PageKit::pictureOf(&bubble);
 
     auto *box = new QWidget;
     QLineEdit *edit = bitRateEdit(QStringLiteral("12000"));
