@@ -19,36 +19,33 @@ const QString kWord = QStringLiteral("gate");
 /// The edit's buttons that are shown, from left to right.
 QList<QWidget *> shownButtons(const QWidget *edit)
 {
-    QList<QWidget *> shown;
+    QMap<int, QWidget *> shown;
     const QList<CusSvgPushButton *> buttons = edit->findChildren<CusSvgPushButton *>();
-    std::copy_if(buttons.begin(), buttons.end(), std::back_inserter(shown),
-                 [](const QWidget *button) { return button->isVisible(); });
-    std::sort(shown.begin(), shown.end(),
-              [](const QWidget *a, const QWidget *b) { return a->x() < b->x(); });
-    return shown;
-}
-
-/// The entries of a menu in one line: "-" is a separator, "!" precedes one that is disabled.
-QString rowsOf(const QMenu *menu)
-{
-    QStringList rows;
-    const QList<QAction *> entries = menu->actions();
-    for (const QAction *entry : entries) {
-        const QString text = entry->text().section(QLatin1Char('\t'), 0, 0);
-        rows << (entry->isSeparator()     ? QStringLiteral("-")
-                     : entry->isEnabled() ? text
-                                          : QLatin1Char('!') + text);
+    for (CusSvgPushButton *button : buttons) {
+        if (button->isVisible())
+            shown[button->x()] = button;
     }
-    return rows.join(QLatin1Char(' '));
+    return shown.values();
 }
 
 QAction *entryOf(const QMenu *menu, const QString &text)
 {
     const QList<QAction *> entries = menu->actions();
-    const auto it = std::find_if(entries.begin(), entries.end(), [&](const QAction *entry) {
-        return entry->text().startsWith(text);
-    });
+    const auto it = std::find_if(entries.begin(), entries.end(),
+                                 [&](QAction *entry) { return entry->text().startsWith(text); });
     return it == entries.end() ? nullptr : *it;
+}
+
+/// The entries of a menu in one line: "-" is a separator, "!" precedes one that is disabled.
+QString rowsOf(const QMenu *menu)
+{
+    QString rows;
+    const QList<QAction *> entries = menu->actions();
+    for (const QAction *entry : entries) {
+        rows += QLatin1String(entry->isSeparator() ? " -" : entry->isEnabled() ? " " : " !");
+        rows += entry->text().section(QLatin1Char('\t'), 0, 0);
+    }
+    return rows.mid(1);
 }
 
 class FocusLog : public ActionLineEdit
@@ -78,7 +75,7 @@ private:
         m_window.reset(new QWidget);
         m_window->resize(400, 60);
         m_edit = new CusLineEdit(m_window.data());
-        m_edit->setGeometry(10, 10, 200, 30);
+        m_edit->resize(200, 30);
         m_window->show();
         QVERIFY(QTest::qWaitForWindowActive(m_window.data()));
         m_edit->setFocus();
@@ -119,77 +116,60 @@ private Q_SLOTS:
     void limitStopsTypingAndCutsNothing()
     {
         m_edit->setText(QString(kLimit + 2, QLatin1Char('x')));
-        QTest::keyClicks(m_edit, QStringLiteral("y"));
+        QTest::keyClick(m_edit, Qt::Key_Y);
         m_edit->setSelection(5, -2);
         QTRY_COMPARE(m_edit->maxLength(), kLimit + 3);
         QCOMPARE(m_edit->text().size(), kLimit + 3);
         QCOMPARE(m_edit->selectedText(), QStringLiteral("xx"));
         QCOMPARE(m_edit->cursorPosition(), 3);
         QVERIFY(m_edit->isModified());
-
         // From here on the limit follows the text down, and stays at 64.
-        m_edit->setCursorPosition(1);
         for (const int length : {kLimit + 2, kLimit + 1, kLimit, kLimit - 1}) {
+            m_edit->setCursorPosition(1);
             QTest::keyClick(m_edit, Qt::Key_Delete);
             QCOMPARE(m_edit->text().size(), length);
             QCOMPARE(m_edit->cursorPosition(), 1);
             QTest::keyClicks(m_edit, QStringLiteral("zz"));
             QCOMPARE(m_edit->text().size(), qMax(length, kLimit));
-            m_edit->setCursorPosition(1);
         }
     }
 
     void limitOfTheClientHolds()
     {
-        const auto stop = [](CusLineEdit *edit) { edit->setStopTimer(); };
-        const std::tuple<Act, int, int> rows[] = {
-            {[](CusLineEdit *edit) { edit->setMaxLength(5); }, 5, 5},
-            {[](CusLineEdit *edit) { edit->setMaxLength(-7); }, 0, 0},
-            {[](CusLineEdit *edit) { edit->QLineEdit::setMaxLength(5); }, 5, kLimit},
-            {stop, 32767, 32767}};
-        for (const auto &[act, now, later] : rows) {
-            makeEdit();
-            m_edit->setText(QStringLiteral("loading bay"));
-            act(m_edit);
-            QCOMPARE(m_edit->maxLength(), now);
-            QCOMPARE(m_edit->text().size(), qMin(11, now));
-            QSignalSpy fired(m_edit->findChild<QTimer *>(), &QTimer::timeout);
-            QVERIFY(fired.wait());
-            QCOMPARE(m_edit->maxLength(), later);
-        }
-    }
-
-    void arrowsCollapseASelection_data()
-    {
-        QTest::addColumn<int>("key");
-        QTest::addColumn<Modifiers>("modifiers");
-        QTest::addColumn<int>("length");
-        QTest::addColumn<int>("cursor");
-        QTest::addColumn<int>("selected");
-        const Modifiers none;
-        const Modifiers shift = Qt::ShiftModifier;
-        const Modifiers control = Qt::ControlModifier;
-        QTest::newRow("left") << int(Qt::Key_Left) << none << 3 << 2 << 0;
-        QTest::newRow("right") << int(Qt::Key_Right) << none << 3 << 5 << 0;
-        QTest::newRow("right, backwards") << int(Qt::Key_Right) << none << -2 << 2 << 0;
-        QTest::newRow("shift extends") << int(Qt::Key_Right) << shift << 3 << 6 << 4;
-        QTest::newRow("control collapses") << int(Qt::Key_Left) << control << 3 << 2 << 0;
-        QTest::newRow("both collapse") << int(Qt::Key_Right) << (control | shift) << 3 << 5 << 0;
-        QTest::newRow("no selection moves") << int(Qt::Key_Left) << none << 0 << 1 << 0;
-        QTest::newRow("end moves") << int(Qt::Key_End) << none << 3 << 8 << 0;
+        CusLineEdit own, negative, stopped, behind;
+        const QList<CusLineEdit *> edits{&own, &negative, &stopped, &behind};
+        for (CusLineEdit *edit : edits)
+            edit->setText(kWord);
+        own.setMaxLength(3);
+        negative.setMaxLength(-7);
+        stopped.setStopTimer();
+        behind.QLineEdit::setMaxLength(3);
+        QCOMPARE(own.text() + negative.text() + stopped.text(), QStringLiteral("gatgate"));
+        QTRY_COMPARE(behind.maxLength(), kLimit);
+        for (const CusLineEdit *edit : edits)
+            QTRY_VERIFY(!edit->findChild<QTimer *>()->isActive());
+        QCOMPARE(own.maxLength(), 3);
+        QCOMPARE(negative.maxLength(), 0);
+        QCOMPARE(stopped.maxLength(), 32767);
     }
 
     void arrowsCollapseASelection()
     {
-        QFETCH(int, key);
-        QFETCH(Modifiers, modifiers);
-        QFETCH(int, length);
-        m_edit->setText(QStringLiteral("abcdefgh"));
-        m_edit->setSelection(2, length);
-        QTest::keyClick(m_edit, Qt::Key(key), modifiers);
-        QTEST(m_edit->cursorPosition(), "cursor");
-        int selected = m_edit->selectionLength();
-        QTEST(selected, "selected");
+        const Modifiers shift = Qt::ShiftModifier;
+        const Modifiers control = Qt::ControlModifier;
+        // The selection begins at 2: its length, and where cursor and selection are afterwards.
+        const std::tuple<Qt::Key, Modifiers, int, int, int> rows[] = {
+            {Qt::Key_Left, Modifiers(), 3, 2, 0},   {Qt::Key_Right, Modifiers(), 3, 5, 0},
+            {Qt::Key_Right, Modifiers(), -2, 2, 0}, {Qt::Key_Right, shift, 3, 6, 4},
+            {Qt::Key_Left, control, 3, 2, 0},       {Qt::Key_Right, control | shift, 3, 5, 0},
+            {Qt::Key_Left, Modifiers(), 0, 1, 0},   {Qt::Key_End, Modifiers(), 3, 8, 0}};
+        for (const auto &[key, modifiers, length, cursor, selected] : rows) {
+            m_edit->setText(QStringLiteral("abcdefgh"));
+            m_edit->setSelection(2, length);
+            QTest::keyClick(m_edit, key, modifiers);
+            QCOMPARE(m_edit->cursorPosition(), cursor);
+            QCOMPARE(m_edit->selectionLength(), selected);
+        }
     }
 
     void swallowsFilteredKeys()
@@ -208,30 +188,27 @@ private Q_SLOTS:
     {
         for (const QString &edge : {QStringLiteral("Trail"), QStringLiteral("Lead")}) {
             const QByteArray support = QStringLiteral("surpot%1Btn").arg(edge).toLatin1();
-            const QByteArray name = edge.toLower().toLatin1() + "BtnObjName";
-            const QByteArray tips = edge.toLower().toLatin1() + "BtnTips";
-            // What is named before there is a button is lost; an empty text changes nothing.
-            for (const QString &text : {kWord, kWord, QString()}) {
-                QVERIFY(m_edit->setProperty(name.constData(), text));
-                QVERIFY(m_edit->setProperty(tips.constData(), text));
-                const bool supported = m_edit->property(support.constData()).toBool();
-                for (const QByteArray &property : {name, tips})
-                    QCOMPARE(m_edit->property(property.constData()).toString(),
-                             supported ? kWord : QString());
-                if (!supported)
-                    m_edit->setProperty(support.constData(), true);
+            for (const char *end : {"BtnObjName", "BtnTips"}) {
+                const QByteArray name = edge.toLower().toLatin1() + end;
+                // What is named before there is a button is lost; an empty text changes nothing.
+                m_edit->setProperty(name.constData(), kWord);
+                QCOMPARE(m_edit->property(name.constData()), QVariant(QString()));
+                m_edit->setProperty(support.constData(), true);
+                m_edit->setProperty(name.constData(), kWord);
+                m_edit->setProperty(name.constData(), QString());
+                QCOMPARE(m_edit->property(name.constData()), QVariant(kWord));
             }
         }
-        QStringList calls;
-        m_edit->registerTrailFun([&](bool on) { calls << QStringLiteral("trail %1").arg(on); });
-        m_edit->registerLeadFun([&](bool on) { calls << QStringLiteral("lead %1").arg(on); });
+        QString calls;
+        m_edit->registerTrailFun([&](bool on) { calls += QStringLiteral("trail%1 ").arg(on); });
+        m_edit->registerLeadFun([&](bool on) { calls += QStringLiteral("lead%1 ").arg(on); });
         m_edit->registerTrailFun({});
         for (QWidget *button : shownButtons(m_edit)) {
             QCOMPARE(button->size(), QSize(20, 20));
             static_cast<CusSvgPushButton *>(button)->setCheckable(true);
             QTest::mouseClick(button, Qt::LeftButton);
         }
-        QCOMPARE(calls, (QStringList{QStringLiteral("lead 1"), QStringLiteral("trail 1")}));
+        QCOMPARE(calls, QStringLiteral("lead1 lead1 trail1 "));
         QVERIFY(m_edit->hasFocus());
     }
 
@@ -244,11 +221,9 @@ private Q_SLOTS:
             qApp->setStyleSheet(sheet + QString(round, QLatin1Char(' ')));
             m_edit->setSurpotLeadBtn(true);
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-            const QList<QWidget *> buttons = shownButtons(m_edit);
-            QCOMPARE(buttons.size(), round + 1);
             QCOMPARE(m_edit->actions().size(), round + 1);
-            QCOMPARE(buttons.last()->objectName(), QStringLiteral("clear"));
-            QVERIFY(buttons.at(round - 1)->x() < buttons.last()->x());
+            QCOMPARE(shownButtons(m_edit).size(), round + 1);
+            QCOMPARE(shownButtons(m_edit).last()->objectName(), QStringLiteral("clear"));
         }
         m_edit->setLayoutDirection(Qt::RightToLeft);
         QCOMPARE(shownButtons(m_edit).first()->objectName(), QStringLiteral("clear"));
@@ -262,20 +237,23 @@ private Q_SLOTS:
 
     void trailingButtonHidesWithoutText()
     {
+        const auto shown = [this] {
+            const bool visible = m_edit->actions().last()->isVisible();
+            return visible == !shownButtons(m_edit).isEmpty() ? int(visible) : -1;
+        };
+        m_edit->setSurpotTrailBtn(true);
+        m_edit->setEnableNoTextNotShowTrailBtn(true);
+        QCOMPARE(shown(), 0);
         // Blanks are text to a change of the text, and none to the switch.
-        const std::tuple<Act, bool> steps[] = {
-            {[](CusLineEdit *edit) { edit->setSurpotTrailBtn(true); }, true},
-            {[](CusLineEdit *edit) { edit->setEnableNoTextNotShowTrailBtn(true); }, false},
-            {[](CusLineEdit *edit) { edit->setText(QStringLiteral("  ")); }, true},
-            {[](CusLineEdit *edit) { edit->setEnableNoTextNotShowTrailBtn(true); }, false},
-            {[](CusLineEdit *edit) { edit->setEnableNoTextNotShowTrailBtn(false); }, false},
-            {[](CusLineEdit *edit) { edit->setSurpotTrailBtn(true); }, true},
-            {[](CusLineEdit *edit) { edit->clear(); }, true}};
-        for (const auto &[act, shown] : steps) {
-            act(m_edit);
-            QCOMPARE(!shownButtons(m_edit).isEmpty(), shown);
-            QCOMPARE(m_edit->actions().last()->isVisible(), shown);
-        }
+        m_edit->setText(QStringLiteral("  "));
+        QCOMPARE(shown(), 1);
+        m_edit->setEnableNoTextNotShowTrailBtn(true);
+        QCOMPARE(shown(), 0);
+        m_edit->setEnableNoTextNotShowTrailBtn(false);
+        QCOMPARE(shown(), 0);
+        m_edit->setSurpotTrailBtn(true);
+        m_edit->clear();
+        QCOMPARE(shown(), 1);
     }
 
     void keepsWhatALineEditDoes()
@@ -295,11 +273,11 @@ private Q_SLOTS:
         QTest::mousePress(m_edit, Qt::LeftButton);
         QTest::mousePress(m_edit, Qt::RightButton);
         QCOMPARE(pressed.size(), 2);
-        auto *next = new QLineEdit(m_window.data());
-        next->show();
+        QLineEdit next(m_window.data());
+        next.show();
         m_edit->setSurpotTrailBtn(true);
         QTest::keyClick(m_edit, Qt::Key_Tab);
-        QVERIFY(next->hasFocus());
+        QVERIFY(next.hasFocus());
 
         qApp->setStyleSheet(QStringLiteral("CusLineEdit { background: #00ff00 }"
                                            "CusLineEdit:focus { background: #0000ff }"
@@ -314,39 +292,24 @@ private Q_SLOTS:
 
     void menuOffersWhatTheStateAllows()
     {
-        const auto type = [](CusLineEdit *edit) { edit->insert(kWord); };
-        const std::tuple<Act, const char *> rows[] = {
-            {[](CusLineEdit *) {}, "!&Undo !&Redo - !Cu&t !&Copy &Paste !Delete - !Select All"},
-            {type, "&Undo !&Redo - !Cu&t !&Copy &Paste !Delete - Select All"},
-            {[&](CusLineEdit *edit) { type(edit), edit->selectAll(); },
-             "&Undo !&Redo - Cu&t &Copy &Paste Delete - !Select All"},
-            {[&](CusLineEdit *edit) { type(edit), edit->undo(); },
-             "!&Undo &Redo - !Cu&t !&Copy &Paste !Delete - !Select All"},
-            {[&](CusLineEdit *edit) {
-                 edit->setEchoMode(QLineEdit::Password), type(edit), edit->setSelection(0, 2);
-             },
-             "&Undo !&Redo - !Cu&t !&Copy &Paste Delete - Select All"},
-            {[&](CusLineEdit *edit) {
-                 type(edit), edit->setReadOnly(true), edit->setSelection(0, 2);
-             },
-             "&Copy - Select All"},
-            {[](CusLineEdit *edit) { edit->setText(QStringLiteral("  ")), edit->selectAll(); },
-             "!&Undo !&Redo - Cu&t &Copy &Paste !Delete - !Select All"}};
-        QGuiApplication::clipboard()->setText(kWord);
-        for (const auto &[act, entries] : rows) {
-            makeEdit();
-            act(m_edit);
+        const auto menuRows = [this](bool copied = true) {
+            QGuiApplication::clipboard()->setText(copied ? kWord : QString());
             const QScopedPointer<QMenu> menu(m_edit->createStandardContextMenu());
-            QCOMPARE(rowsOf(menu.data()), QLatin1String(entries));
-            QCOMPARE(menu->objectName(), QStringLiteral("qt_edit_menu"));
-        }
-        QGuiApplication::clipboard()->clear();
+            return rowsOf(menu.data()).toLatin1();
+        };
+        QCOMPARE(menuRows(), "!&Undo !&Redo - !Cu&t !&Copy &Paste !Delete - !Select All");
+        m_edit->insert(kWord);
+        QCOMPARE(menuRows(false), "&Undo !&Redo - !Cu&t !&Copy !&Paste !Delete - Select All");
+        m_edit->selectAll();
+        QCOMPARE(menuRows(), "&Undo !&Redo - Cu&t &Copy &Paste Delete - !Select All");
+        m_edit->setEchoMode(QLineEdit::Password);
+        QCOMPARE(menuRows(), "&Undo !&Redo - !Cu&t !&Copy &Paste Delete - !Select All");
+        m_edit->setReadOnly(true);
+        QCOMPARE(menuRows(), "!&Copy - !Select All");
         const QScopedPointer<QMenu> menu(m_edit->createStandardContextMenu());
-        const QAction *paste = entryOf(menu.data(), QStringLiteral("&Paste"));
-        QVERIFY(!paste->isEnabled());
-        QCOMPARE(paste->text(),
-                 QStringLiteral("&Paste\t")
-                     + QKeySequence(QKeySequence::Paste).toString(QKeySequence::NativeText));
+        QCOMPARE(entryOf(menu.data(), QStringLiteral("&Copy"))->text(),
+                 QStringLiteral("&Copy\t")
+                     + QKeySequence(QKeySequence::Copy).toString(QKeySequence::NativeText));
     }
 
     void deleteEntrySearchesContent()
@@ -354,8 +317,7 @@ private Q_SLOTS:
         const std::tuple<const char *, int, int, const char *, int> rows[] = {
             {"gate", 0, 4, "", 0},
             {"gate 3", 0, 4, " 3", 0},
-            {"cam a cam b cam", 0, 3, "cam a  b cam", 3},
-            {"cam a cam b", 9, -3, "cam a  b", 6},
+            {"a cam a cam", 2, 3, "a cam a ", 5},
             {"cam a cam", 6, 3, "cam a ", 6},
             {"a  cam cam", 3, 3, "a cam ", 6},
             {" ab cd", 3, -2, " cd", 0},
@@ -379,17 +341,14 @@ private Q_SLOTS:
             return qobject_cast<QMenu *>(QApplication::activePopupWidget());
         };
         QVERIFY(!open());
-        QVERIFY(m_edit->lastMenuGlobalRect().isNull());
         m_edit->setContextMenuPolicy(Qt::DefaultContextMenu);
-        const std::tuple<bool, bool, int> rows[] = {
-            {false, true, 9}, {false, false, 6}, {true, true, 3}, {true, false, 0}};
-        for (const auto &[readOnly, undo, count] : rows) {
-            m_edit->setReadOnly(readOnly);
-            m_edit->setRedoUndoMenuEnable(undo);
+        for (const int entries : {9, 6, 3, 0}) {
+            m_edit->setReadOnly(entries < 6);
+            m_edit->setRedoUndoMenuEnable(entries % 2 == 1);
             const QPointer<QMenu> menu = open();
             QVERIFY(menu);
             QCOMPARE(menu->objectName(), QStringLiteral("RightMenuPane"));
-            QCOMPARE(menu->actions().size(), count);
+            QCOMPARE(menu->actions().size(), entries);
             QCOMPARE(m_edit->lastMenuGlobalRect(), menu->geometry());
             QVERIFY(!m_edit->isShowingContextMenu());
             menu->close();
@@ -398,23 +357,16 @@ private Q_SLOTS:
         }
     }
 
-    void survivesDeletionInItsSignals()
+    void survivesDeletionByItsCallers()
     {
-        const Act deadly[] = {[](CusLineEdit *edit) {
-                                  edit->registerTrailFun([edit](bool) { delete edit; });
-                                  edit->setSurpotTrailBtn(true);
-                                  edit->findChild<CusSvgPushButton *>()->click();
-                              },
-                              [](CusLineEdit *edit) {
-                                  connect(edit, &CusLineEdit::signalMousePressed, edit,
-                                          [edit] { delete edit; });
-                                  QTest::mousePress(edit, Qt::LeftButton);
-                              }};
-        for (const Act &act : deadly) {
-            makeEdit();
-            act(m_edit);
-            QVERIFY(!m_edit);
-        }
+        m_edit->registerTrailFun([this](bool) { delete m_edit; });
+        m_edit->setSurpotTrailBtn(true);
+        m_edit->findChild<CusSvgPushButton *>()->click();
+        QVERIFY(!m_edit);
+        makeEdit();
+        connect(m_edit, &CusLineEdit::signalMousePressed, this, [this] { delete m_edit; });
+        QTest::mousePress(m_edit, Qt::LeftButton);
+        QVERIFY(!m_edit);
     }
 
     void frameShowsStatesOfItsEdit()
@@ -427,7 +379,6 @@ private Q_SLOTS:
         auto *frame = new FocusLog(m_window.data());
         frame->show();
         const auto ground = [frame] { return TestKit::renderAt(frame).pixelColor(150, 3); };
-        QCOMPARE(ground(), QColor(Qt::green));
         QCOMPARE(frame->size(), QSize(321, 27));
         frame->setFocus();
         QCOMPARE(ground(), QColor(Qt::blue));
@@ -462,8 +413,7 @@ private Q_SLOTS:
         };
         QWidget *edit = frame.lineedit();
         auto *one = new QLabel;
-        QLabel two;
-        QLabel unit;
+        QLabel two, unit;
         frame.addAction(&unit, trailing);
         QCOMPARE(frame.contentsMargins(), QMargins(0, 0, 5, 0));
         frame.addAction(one, leading);
@@ -477,11 +427,9 @@ private Q_SLOTS:
         frame.setReadOnly(true);
         QCOMPARE(frame.contentsMargins(), QMargins(5, 0, 5, 0));
 
-        frame.deleteAction(nullptr);
-        frame.deleteAction(edit);
-        frame.deleteAction(&unit);
+        for (QWidget *gone : QList<QWidget *>{nullptr, edit, &unit})
+            frame.deleteAction(gone);
         QCOMPARE(order(), (QList<QWidget *>{one, &two, edit}));
-        QCOMPARE(frame.contentsMargins(), QMargins(5, 0, 0, 0));
         delete one;
         frame.addAction(&unit, leading);
         QCOMPARE(order(), (QList<QWidget *>{&two, &unit, edit}));
@@ -492,26 +440,25 @@ private Q_SLOTS:
 
     void filtersPasteIntoAPassword()
     {
-        using Prepare = std::function<void(ActionLineEdit *)>;
-        const Modifiers control = Qt::ControlModifier;
-        const auto showText = [](ActionLineEdit *edit) {
-            edit->lineedit()->setEchoMode(QLineEdit::Normal);
-        };
-        const std::tuple<Prepare, Modifiers, const char *> rows[] = {
-            {[](ActionLineEdit *) {}, control, "xabcd"},
-            {[](ActionLineEdit *) {}, control | Qt::ShiftModifier, "old"},
-            {[](ActionLineEdit *edit) { edit->setFilterPaste(false); }, control, "oldx东区 ab cd"},
-            {showText, control, "oldx东区 ab cd"},
-            {[](ActionLineEdit *edit) { edit->setReadOnly(true); }, control, "old"}};
         QGuiApplication::clipboard()->setText(QString::fromUtf8("x东区 ab cd"));
-        for (const auto &[prepare, modifiers, text] : rows) {
-            ActionLineEdit frame;
-            frame.lineedit()->setEchoMode(QLineEdit::Password);
-            frame.setText(QStringLiteral("old"));
-            prepare(&frame);
+        ActionLineEdit frame;
+        frame.lineedit()->setEchoMode(QLineEdit::Password);
+        frame.setText(kWord);
+        const auto pasted = [&frame](Modifiers modifiers = Qt::ControlModifier) {
             QTest::keyClick(frame.lineedit(), Qt::Key_V, modifiers);
-            QCOMPARE(frame.text(), QString::fromUtf8(text));
-        }
+            return frame.text();
+        };
+        QCOMPARE(pasted(Qt::ControlModifier | Qt::ShiftModifier), kWord);
+        frame.setReadOnly(true);
+        QCOMPARE(pasted(), kWord);
+        frame.setReadOnly(false);
+        QCOMPARE(pasted(), QStringLiteral("xabcd"));
+        frame.setFilterPaste(false);
+        QCOMPARE(pasted(), QString::fromUtf8("xabcdx东区 ab cd"));
+        frame.setFilterPaste(true);
+        frame.lineedit()->setEchoMode(QLineEdit::Normal);
+        frame.setText(QString());
+        QCOMPARE(pasted(), QString::fromUtf8("x东区 ab cd"));
     }
 };
 
