@@ -58,14 +58,14 @@ public:
     bool filterPaste() const;
     void setFilterPaste(bool filter);
 
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
-protected:
     /// The edit got the focus. Does nothing here.
     virtual void lineEditFocusIn();
     /// The edit lost the focus. Does nothing here.
     virtual void lineEidtFocusOut();
 
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+protected:
     bool event(QEvent *event) override;
     void childEvent(QChildEvent *event) override;
 

@@ -1,6 +1,8 @@
 #include "edits/cuslineedit.h"
 
 #include "buttons/cussvgpushbutton.h"
+#include "common/restyle.h"
+#include "labels/cusmenu.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -8,7 +10,6 @@
 #include <QGuiApplication>
 #include <QIcon>
 #include <QKeyEvent>
-#include <QMenu>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QTimer>
@@ -40,8 +41,17 @@ QString withShortcut(const QString &text, QKeySequence::StandardKey key)
     return shortcut.isEmpty() ? text : text + QLatin1Char('\t') + shortcut;
 }
 
-template <typename Menu, typename Slot>
-void addEntry(Menu *menu, const MenuEntry &entry, QLineEdit *edit, Slot slot)
+void rename(CusSvgPushButton *button, const QString &name)
+{
+    if (!button || name.isEmpty())
+        return;
+    button->setObjectName(name);
+    // In an edit that is shown the button was polished without the name.
+    vellum::restyle(button);
+}
+
+template <typename Slot>
+void addEntry(CusMenu *menu, const MenuEntry &entry, QLineEdit *edit, Slot slot)
 {
     QAction *action = menu->addAction(withShortcut(QLineEdit::tr(entry.text), entry.shortcut));
     action->setEnabled(entry.enabled);
@@ -195,8 +205,7 @@ bool CusLineEdit::getSurpotTrailBtn() const
 
 void CusLineEdit::setTrailBtnObjName(const QString &name)
 {
-    if (d->trailBtn && !name.isEmpty())
-        d->trailBtn->setObjectName(name);
+    rename(d->trailBtn, name);
 }
 
 QString CusLineEdit::getTrailBtnObjName() const
@@ -231,8 +240,7 @@ bool CusLineEdit::getSurpotLeadBtn() const
 
 void CusLineEdit::setLeadBtnObjName(const QString &name)
 {
-    if (d->leadBtn && !name.isEmpty())
-        d->leadBtn->setObjectName(name);
+    rename(d->leadBtn, name);
 }
 
 QString CusLineEdit::getLeadBtnObjName() const
@@ -287,7 +295,7 @@ const QRect &CusLineEdit::lastMenuGlobalRect() const
 
 QMenu *CusLineEdit::createStandardContextMenu()
 {
-    auto *menu = new QMenu(this);
+    auto *menu = new CusMenu(this);
     menu->setObjectName(QStringLiteral("qt_edit_menu"));
     const bool normalSelection = hasSelectedText() && echoMode() == Normal;
     const bool writable = !isReadOnly();

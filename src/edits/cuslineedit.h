@@ -57,7 +57,8 @@ public:
     void setRedoUndoMenuEnable(bool enable);
 
     /// The colour of the placeholder text. Any other colour of the edit's palette goes back to the
-    /// default. A style sheet that sets "color" for the edit colours the placeholder, too, and wins.
+    /// default. A style sheet that sets "color" for the edit colours the placeholder, too, and
+    /// wins.
     void setPlaceHolderTextColor(const QColor &color);
 
     /// \name Buttons in the edit
