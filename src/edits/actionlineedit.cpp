@@ -164,8 +164,9 @@ bool ActionLineEdit::event(QEvent *event)
     const bool handled = QFrame::event(event);
     // Then QFrame sets the margins by the width of its border; the edit would jump at each change
     // of the focus.
-    if ((event->type() == QEvent::StyleChange || event->type() == QEvent::ParentChange)
-        && d->ownMargins)
+    const QEvent::Type type = event->type();
+    if (d->ownMargins
+        && (type == QEvent::Polish || type == QEvent::StyleChange || type == QEvent::ParentChange))
         d->applyMargins(this);
     return handled;
 }

@@ -391,6 +391,7 @@ private Q_SLOTS:
         QCOMPARE(layout->indexOf(edit), 2);
         // Nor does a new look bring back the margins that the border asks for.
         frame.show();
+        QCOMPARE(frame.contentsMargins(), QMargins(5, 0, 5, 0));
         frame.setReadOnly(true);
         QCOMPARE(frame.contentsMargins(), QMargins(5, 0, 5, 0));
 
