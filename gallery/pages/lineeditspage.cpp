@@ -290,6 +290,9 @@ QWidget *menuPicture(CusLineEdit *edit, int leaveOut, const QString &caption)
     const QList<QAction *> entries = menu->actions().mid(0, leaveOut);
     for (QAction *entry : entries)
         menu->removeAction(entry);
+    // Left to itself, it would be cut to fit a small screen.
+    menu->ensurePolished();
+    menu->resize(menu->sizeHint());
     QWidget *cell = PageKit::captioned(PageKit::pictureOf(menu.data()), caption);
     edit->deleteLater();
     return cell;
