@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QStyle>
+
+#include <memory>
+
+class CusSvgPushButton;
+class QPainter;
+class QRect;
+class QSlider;
+class QStyleOptionSlider;
+
+namespace vellum {
+
+/// The handle of a slider: a hidden button named "btn_sliderHandle", whose pictures are stamped
+/// where the style has its own handle.
+class SliderHandle
+{
+public:
+    SliderHandle();
+    ~SliderHandle();
+
+    /// The look of a stamp in \a rect: \a option's, but hovered and pressed only under the cursor.
+    static QStyle::State state(const QRect &rect, const QStyleOptionSlider &option,
+                               const QSlider *slider);
+    /// The style's rectangle, moved so that its left and right edges lie within the option's.
+    static QRect rect(const QStyleOptionSlider &option, const QSlider *slider);
+
+    /// Draws the handle into \a rect.
+    void stamp(QPainter *painter, const QRect &rect, const QStyleOptionSlider &option,
+               const QSlider *slider) const;
+    /// Draws the handle where rect() says, on the style's groove.
+    void paint(QPainter *painter, QStyleOptionSlider option, const QSlider *slider) const;
+
+private:
+    Q_DISABLE_COPY(SliderHandle)
+    std::shared_ptr<CusSvgPushButton> m_twin;
+};
+
+/// \a x counted from the edge where a horizontal slider has its minimum, which is the right one in
+/// a right-to-left layout; \a x itself for a vertical slider.
+int fromMinimumEdge(int x, const QStyleOptionSlider &option);
+
+} // namespace vellum
