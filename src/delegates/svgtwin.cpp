@@ -3,6 +3,10 @@
 #include "buttons/cussvgpushbutton.h"
 #include "common/restyle.h"
 
+#include <QCursor>
+#include <QStyleOption>
+#include <QWidget>
+
 namespace vellum {
 
 std::shared_ptr<CusSvgPushButton> makeSvgTwin(const QString &objectName)
@@ -26,6 +30,14 @@ void renameSvgTwin(CusSvgPushButton *twin, const QString &objectName)
         return;
     twin->setObjectName(objectName);
     restyle(twin);
+}
+
+QStyle::State svgTwinState(const QRect &rect, const QStyleOption &option, const QWidget *owner)
+{
+    QStyle::State taken = QStyle::State_Enabled;
+    if (rect.contains(owner->mapFromGlobal(QCursor::pos())))
+        taken |= QStyle::State_MouseOver | QStyle::State_Sunken;
+    return option.state & taken;
 }
 
 } // namespace vellum
