@@ -249,6 +249,10 @@ void CusBasicSpinBox::commitByReturn(QKeyEvent *event)
 
 void CusBasicSpinBox::showRangeTip(const QString &fullStop)
 {
+    // A window that is closed or deleted takes the focus away, too, and takes no new child then.
+    const QWidget *page = window();
+    if (page->isHidden() && page->testAttribute(Qt::WA_WState_ExplicitShowHide))
+        return;
     const QString range = QStringLiteral("%1~%2")
                               .arg(minimum(), 0, 10, QLatin1Char(' '))
                               .arg(maximum(), 0, 10, QLatin1Char(' '));
