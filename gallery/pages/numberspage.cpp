@@ -18,7 +18,7 @@
 namespace {
 
 constexpr int kBoxWidth = 136;
-constexpr int kPaneWidth = 228;
+constexpr int kPaneWidth = 216;
 
 /// What the controls of the page report, the latest on the line below them.
 class Reports
@@ -303,20 +303,22 @@ public:
         column->addWidget(PageKit::card(QStringLiteral("Whole numbers, bases, units"), boxes));
         addPair(column, PageKit::card(QStringLiteral("Fractions"), doubles(reports)),
                 PageKit::card(QStringLiteral("Minus, value, plus"), addSub(reports)));
-        addPair(column, PageKit::card(QStringLiteral("Auto or Customize"), choices(reports)),
-                PageKit::card(QStringLiteral("A range of two"), ranges(reports)));
-        column->addWidget(reports.line());
+        auto *left = new QWidget;
+        auto *lines = new QVBoxLayout(left);
+        lines->setContentsMargins(0, 0, 0, 0);
+        lines->addWidget(PageKit::card(QStringLiteral("Auto or Customize"), choices(reports)));
+        lines->addStretch(1);
+        lines->addWidget(reports.line());
+        addPair(column, left, PageKit::card(QStringLiteral("A range of two"), ranges(reports)));
     }
 
 private:
-    static void addPair(QVBoxLayout *column, QFrame *left, QFrame *right)
+    static void addPair(QVBoxLayout *column, QWidget *left, QWidget *right)
     {
         auto *line = new QHBoxLayout;
         line->setSpacing(16);
-        for (QFrame *card : {left, right}) {
-            static_cast<QVBoxLayout *>(card->layout())->addStretch(1);
-            line->addWidget(card);
-        }
+        line->addWidget(left, 1);
+        line->addWidget(right, 1);
         column->addLayout(line);
     }
 };

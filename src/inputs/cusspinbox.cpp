@@ -44,7 +44,6 @@ CusSpinBox::~CusSpinBox() = default;
 
 void CusSpinBox::uiInit()
 {
-    setLineEdit(new QLineEdit(this));
     installEventFilter(this);
     connect(this, &QSpinBox::editingFinished, this, &CusSpinBox::clampLastInput);
     showAgain();
@@ -105,6 +104,19 @@ void CusSpinBox::clampLastInput()
         setValue(minimum());
     else if (d->lastInputVal > maximum())
         setValue(maximum());
+}
+
+QValidator::State CusSpinBox::validate(QString &input, int &pos) const
+{
+    const QString padded = input;
+    const int paddedPos = pos;
+    const QValidator::State state = CusBasicSpinBox::validate(input, pos);
+    // QSpinBox trims what it checks, and with it the padding.
+    if (d->fillChar.isSpace()) {
+        input = padded;
+        pos = paddedPos;
+    }
+    return state;
 }
 
 QString CusSpinBox::textFromValue(int value) const

@@ -32,6 +32,7 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 protected:
+    QValidator::State validate(QString &input, int &pos) const override;
     QString textFromValue(int value) const override;
     int valueFromText(const QString &text) const override;
 

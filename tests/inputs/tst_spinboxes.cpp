@@ -71,6 +71,16 @@ QAbstractSpinBox *make()
     return new Box;
 }
 
+class BoxWithOwnEdit : public CusBasicSpinBox
+{
+public:
+    BoxWithOwnEdit()
+    {
+        setLineEdit(nullptr);
+        setLineEdit(new QLineEdit(this));
+    }
+};
+
 QStringList tipsOf(QWidget *widget)
 {
     QStringList texts;
@@ -243,9 +253,9 @@ void TestSpinBoxes::refusedEntryGoesBackToItsStart_data()
 void TestSpinBoxes::refusedEntryGoesBackToItsStart()
 {
     QFETCH(Before, before);
-    for (CusBasicSpinBox *box :
-         {new CusBasicSpinBox, static_cast<CusBasicSpinBox *>(new CusSpinBox),
-          static_cast<CusBasicSpinBox *>(new CusSpinBoxWithUnits)}) {
+    const QList<CusBasicSpinBox *> boxes{new CusBasicSpinBox, new BoxWithOwnEdit, new CusSpinBox,
+                                         new CusSpinBoxWithUnits};
+    for (CusBasicSpinBox *box : boxes) {
         show(box, 0, 100, 40);
         before(box);
         box->selectAll();
@@ -422,6 +432,7 @@ void TestSpinBoxes::padsTheNumber_data()
                                   << QStringLiteral("...101");
     QTest::newRow("base 0 changes nothing") << 0 << 3 << zero << 12 << QStringLiteral("012");
     QTest::newRow("base 37 changes nothing") << 37 << 2 << zero << 12 << QStringLiteral("12");
+    QTest::newRow("blanks") << 10 << 4 << QChar(QLatin1Char(' ')) << 26 << QStringLiteral("  26");
     QTest::newRow("huge width") << 10 << INT_MAX << zero << 1
                                 << QString(63, zero) + QLatin1Char('1');
     QTest::newRow("width to the left")
