@@ -276,7 +276,8 @@ QWidget *ranges(const Reports &reports)
                      });
     auto *invalid = range(90, 10);
     for (CusVerRangeInputPane *pane : {valid, invalid}) {
-        for (CusCustomInputPane *half : pane->findChildren<CusCustomInputPane *>()) {
+        const auto halves = pane->findChildren<CusCustomInputPane *>();
+        for (CusCustomInputPane *half : halves) {
             half->setRadioLayoutSpacing(32);
             half->setProperty("Invalid", pane == invalid);
         }

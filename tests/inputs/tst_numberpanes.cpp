@@ -331,7 +331,8 @@ void TestNumberPanes::invalidRangeShows()
         pane.setInvalidText(texts[1]);
     }
     // The client's own way back.
-    for (CusCustomInputPane *half : pane.findChildren<CusCustomInputPane *>())
+    const auto halves = pane.findChildren<CusCustomInputPane *>();
+    for (CusCustomInputPane *half : halves)
         half->setProperty("Invalid", false);
     QCOMPARE(TestKit::countOf(TestKit::renderAt(&pane), Qt::red), 0);
     qApp->setStyleSheet(QString());

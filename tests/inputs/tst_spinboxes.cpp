@@ -84,7 +84,8 @@ public:
 QStringList tipsOf(QWidget *widget)
 {
     QStringList texts;
-    for (AngleTiPWidget *tip : widget->findChildren<AngleTiPWidget *>())
+    const auto tips = widget->findChildren<AngleTiPWidget *>();
+    for (AngleTiPWidget *tip : tips)
         texts += tip->findChild<QLabel *>(QStringLiteral("label_angleTip"))->text();
     return texts;
 }
