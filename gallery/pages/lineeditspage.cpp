@@ -80,7 +80,7 @@ QLayout *buttonsInside()
     for (CusLineEdit *edit : {search, path}) {
         QObject::connect(edit, &CusLineEdit::textEditedSimpled, report,
                          [report](const QString &text) {
-                             report->setText(QStringLiteral("textEditedSimpled: “%1”").arg(text));
+                             report->setText(QStringLiteral("textEditedSimpled: \"%1\"").arg(text));
                          });
         QObject::connect(edit, &CusLineEdit::signalMousePressed, report,
                          [report] { report->setText(QStringLiteral("signalMousePressed")); });
@@ -131,7 +131,7 @@ QWidget *limits()
          PageKit::captioned(noDigits, QStringLiteral("setFilterKeys: digits are swallowed")),
          told(field(QStringLiteral("  Loading   bay  ")),
               [](CusLineEdit *edit) {
-                  return QStringLiteral("text() gives “%1”").arg(edit->text());
+                  return QStringLiteral("text() gives \"%1\"").arg(edit->text());
               })},
         16);
 }
@@ -263,9 +263,9 @@ QLayout *besideTheEdit()
         ActionLineEdit::LeadingPosition);
     QObject::connect(password->lineedit(), &CusLineEdit::textChangedSimpled, report,
                      [report](const QString &text) {
-                         report->setText(QStringLiteral("The password is “%1”.").arg(text));
+                         report->setText(QStringLiteral("The password is \"%1\".").arg(text));
                      });
-    auto *sample = new QPushButton(QStringLiteral("Copy “x东区 ab cd”"));
+    auto *sample = new QPushButton(QStringLiteral("Copy \"x东区 ab cd\""));
     QObject::connect(sample, &QPushButton::clicked, password, [password] {
         QGuiApplication::clipboard()->setText(QStringLiteral("x东区 ab cd"));
         password->setFocus();

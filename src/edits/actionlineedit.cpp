@@ -118,9 +118,11 @@ void ActionLineEdit::addAction(QWidget *widget, ActionLineeditActionPosition pos
 
 void ActionLineEdit::deleteAction(QWidget *widget)
 {
-    // The edit stands in the layout, too, and stays there.
-    if (widget && d->forget(widget))
+    // The edit stands in the layout, too, and stays there; what a client put there itself does not.
+    if (widget && widget != d->lineEdit) {
+        d->forget(widget);
         d->layout->removeWidget(widget);
+    }
     d->applyMargins(this);
 }
 
@@ -141,12 +143,16 @@ bool ActionLineEdit::eventFilter(QObject *watched, QEvent *event)
         if (focusIn || event->type() == QEvent::FocusOut) {
             setProperty(kFocusProperty, focusIn);
             vellum::restyle(this);
+            const QPointer<QObject> edit(watched);
             if (focusIn)
                 lineEditFocusIn();
             else
                 lineEidtFocusOut();
+            // A hook that deleted the frame leaves nobody for the event.
+            if (!edit)
+                return true;
         } else if (event->type() == QEvent::KeyPress && d->filterPaste
-                   && d->lineEdit->echoMode() == QLineEdit::Password && !d->lineEdit->isReadOnly()
+                   && d->lineEdit->echoMode() == QLineEdit::Password
                    && isPaste(static_cast<QKeyEvent *>(event))) {
             d->lineEdit->setText(passwordFrom(QGuiApplication::clipboard()->text()));
             return true;

@@ -52,9 +52,9 @@ public:
     /// Takes \a widget out of the layout. It remains a child of the frame, wherever it stands.
     void deleteAction(QWidget *widget);
 
-    /// Whether Ctrl+V in a writable edit in QLineEdit::Password mode leaves out Chinese characters
-    /// and blanks, and replaces all that is in the field; true at first. Pasting by a menu is not
-    /// filtered.
+    /// Whether Ctrl+V in an edit in QLineEdit::Password mode leaves out Chinese characters and
+    /// blanks, and replaces all that is in the field, even in a read-only one; true at first.
+    /// Pasting by a menu is not filtered.
     bool filterPaste() const;
     void setFilterPaste(bool filter);
 

@@ -5,9 +5,11 @@
 #include "labels/cusmenu.h"
 
 #include <QAction>
+#include <QChildEvent>
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QGuiApplication>
+#include <QHash>
 #include <QIcon>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -80,8 +82,9 @@ struct CusLineEdit::Private
     QPointer<CusSvgPushButton> leadBtn;
     ButtonFunction leadFun;
     bool surpotLeadBtn = false;
-    /// The text was longer than the limit when that came into force.
-    bool overlong = false;
+    /// What Qt's limit is while the text is longer than maxLength; else 0.
+    int overlongLimit = 0;
+    QHash<QObject *, QWidgetAction *> buttonActions;
 
     CusSvgPushButton *addButton(CusLineEdit *edit, QWidgetAction *action, ActionPosition position,
                                 ButtonFunction Private::*function);
@@ -106,6 +109,7 @@ CusSvgPushButton *CusLineEdit::Private::addButton(CusLineEdit *edit, QWidgetActi
     });
     action->setDefaultWidget(button);
     edit->QLineEdit::addAction(action, position);
+    buttonActions.insert(button, action);
     return button;
 }
 
@@ -152,7 +156,7 @@ void CusLineEdit::setEraseSapce(bool erase)
 void CusLineEdit::setMaxLength(int length)
 {
     d->maxLength = qMax(0, length);
-    d->overlong = false;
+    d->overlongLimit = 0;
     QLineEdit::setMaxLength(d->maxLength);
 }
 
@@ -343,6 +347,16 @@ void CusLineEdit::keyPressEvent(QKeyEvent *event)
     QLineEdit::keyPressEvent(event);
 }
 
+/// QLineEdit goes on with the bare pointer of a button that was deleted, be it by the function that
+/// the button itself called.
+void CusLineEdit::childEvent(QChildEvent *event)
+{
+    QLineEdit::childEvent(event);
+    QWidgetAction *action = event->removed() ? d->buttonActions.take(event->child()) : nullptr;
+    if (action && !action->defaultWidget())
+        removeAction(action);
+}
+
 void CusLineEdit::contextMenuEvent(QContextMenuEvent *event)
 {
     const QPointer<CusLineEdit> alive(this);
@@ -381,7 +395,8 @@ bool CusLineEdit::dealLeftRightKeyPress(QKeyEvent *event)
 
 void CusLineEdit::onTextChanged(const QString &text)
 {
-    if (d->overlong)
+    // Unless the client has meanwhile put another limit in the place of ours.
+    if (d->overlongLimit > 0 && d->overlongLimit == maxLength())
         onApplyTimeout();
     Q_EMIT textChangedSimpled(d->simple(text));
     if (d->enableNoTextNotShowTrailBtn && d->surpotTrailBtn && d->trailAction)
@@ -398,9 +413,10 @@ void CusLineEdit::onTextEdit(const QString &text)
 void CusLineEdit::onApplyTimeout()
 {
     const int length = QLineEdit::text().size();
-    d->overlong = length > d->maxLength;
     const int limit = qMax(length, d->maxLength);
-    if (limit == maxLength())
+    d->overlongLimit = length > d->maxLength ? limit : 0;
+    // With a mask Qt takes no limit but the mask's.
+    if (limit == maxLength() || !inputMask().isEmpty())
         return;
     // Qt sets the text anew with a limit, and so loses what the user did until now.
     const int cursor = cursorPosition();

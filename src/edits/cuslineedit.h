@@ -115,6 +115,7 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
+    void childEvent(QChildEvent *event) override;
 
     /// Sees each key first; true ends its handling. This one collapses a selection to its edge on
     /// Left and Right. Null gives false.
