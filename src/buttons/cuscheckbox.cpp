@@ -154,6 +154,15 @@ bool CusCheckBox::hitButton(const QPoint &pos) const
     return d->checkLabelWordWrap && overWrapped(pos);
 }
 
+bool CusCheckBox::overIndicator(const QPoint &pos) const
+{
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    // Where the style has it counts also in a wrapped box, whose drawn one stands higher.
+    return style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, this).contains(pos)
+        || (d->checkLabelWordWrap && d->indicatorRect.contains(pos));
+}
+
 bool CusCheckBox::overWrapped(const QPoint &pos) const
 {
     return d->indicatorRect.contains(pos) || d->labelRect.contains(pos);
@@ -165,14 +174,10 @@ void CusCheckBox::mousePressEvent(QMouseEvent *event)
         event->ignore();
         return;
     }
-    if (d->checkOnlyIndicator && hitButton(event->pos())) {
-        QStyleOptionButton option;
-        initStyleOption(&option);
-        if (!indicatorRect(option).contains(event->pos())) {
-            event->ignore();
-            Q_EMIT signalLabelClicked();
-            return;
-        }
+    if (d->checkOnlyIndicator && hitButton(event->pos()) && !overIndicator(event->pos())) {
+        Q_EMIT signalLabelClicked();
+        event->ignore();
+        return;
     }
     QAbstractButton::mousePressEvent(event);
 }

@@ -60,6 +60,7 @@ protected:
 private:
     QRect indicatorRect(const QStyleOptionButton &option) const;
     QRect wrappedLabelRect(const QStyleOptionButton &option) const;
+    bool overIndicator(const QPoint &pos) const;
     bool overWrapped(const QPoint &pos) const;
     void takeLabelHeight(int height);
     void setHovered(bool hovered);

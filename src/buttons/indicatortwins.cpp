@@ -57,7 +57,9 @@ QString elidedWithTip(QWidget *widget, const QString &text, const QFontMetrics &
 {
     if (metrics.size(Qt::TextShowMnemonic, text).width() <= width)
         return text;
-    widget->setToolTip(text);
+    // Even the same tip sends an event, and this runs with every paint.
+    if (widget->toolTip() != text)
+        widget->setToolTip(text);
     QStringList lines = text.split(QLatin1Char('\n'));
     for (QString &line : lines)
         line = metrics.elidedText(line, Qt::ElideRight, qMax(0, width), Qt::TextShowMnemonic);
