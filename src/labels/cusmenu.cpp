@@ -66,7 +66,7 @@ struct CusMenu::Private
         vellum::makeSvgTwin(QStringLiteral("btn_menuArrowDown"));
     std::shared_ptr<CusSvgPushButton> iconBtn = vellum::makeSvgTwin(QStringLiteral("btn_menuIcon"));
     QMap<QAction *, bool> elidedActions; // by the last paint of each row
-    bool takingTip = false;
+    const QAction *takingTip = nullptr;
 };
 
 /// Where the parts of one row stand; text and arrow columns are kept free in every row.
@@ -423,7 +423,7 @@ void CusMenu::drawTexts(QPainter *painter, const QStyleOptionMenuItem &option, c
 void CusMenu::takeTip(QAction *action, const QString &text)
 {
     // The menu would measure all its rows again for each tip that a paint sets.
-    const QScopedValueRollback<bool> taking(d->takingTip, true);
+    const QScopedValueRollback<const QAction *> taking(d->takingTip, action);
     action->setToolTip(text);
 }
 
@@ -439,7 +439,7 @@ bool CusMenu::event(QEvent *event)
 {
     switch (event->type()) {
     case QEvent::ActionChanged:
-        if (d->takingTip)
+        if (d->takingTip && static_cast<QActionEvent *>(event)->action() == d->takingTip)
             return true;
         break;
     case QEvent::ActionRemoved:
