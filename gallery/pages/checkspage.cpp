@@ -142,7 +142,7 @@ QLayout *labels()
     const QString second = QStringLiteral("Warn the operator by a message when motion is missed");
     QVector<QWidget *> elided{
         labelled(new CusCheckBox(text), 416, QStringLiteral("416 px")),
-        labelled(new CusCheckBox(text), 212, QStringLiteral("212 px, the rest as a tip")),
+        labelled(new CusCheckBox(text), 213, QStringLiteral("213 px, the rest as a tip")),
         labelled(new CusCheckBox(second), 190, QStringLiteral("190 px, the rest as a tip"))};
 
     QVector<QWidget *> wrapped;
