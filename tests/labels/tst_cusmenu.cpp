@@ -11,6 +11,7 @@
 #include <QtWidgets>
 
 #include <limits>
+#include <tuple>
 
 namespace {
 
@@ -28,30 +29,9 @@ QString shownTip()
     return {};
 }
 
-/// A place in the row of \a action, which Qt makes wider than the menu where its text is.
-QPoint placeIn(const QMenu &menu, QAction *action)
-{
-    return menu.actionGeometry(action).topLeft() + QPoint(60, 8);
-}
-
-bool sendTipEvent(QMenu *menu, QAction *action)
-{
-    const QPoint place = placeIn(*menu, action);
-    QHelpEvent event(QEvent::ToolTip, place, menu->mapToGlobal(place));
-    return QApplication::sendEvent(menu, &event);
-}
-
 QStringList textsOf(QWidget *menu)
 {
     return TestKit::drawnTexts([&](QPaintDevice *device) { menu->render(device); }, Qt::blue);
-}
-
-QAction *addChecked(CusMenu *menu)
-{
-    QAction *action = menu->addAction(QStringLiteral("Mark"));
-    action->setCheckable(true);
-    action->setChecked(true);
-    return action;
 }
 
 } // namespace
@@ -72,7 +52,6 @@ private Q_SLOTS:
             "CusSvgPushButton { border: none }"
             "#btn_menuCheckBoxChecked:checked { background: #00ff00 }"
             "#btn_menuArrowRight { background: #ff8000 }"
-            "#btn_menuArrowRight:disabled { background: #808080 }"
             "#btn_menuArrowDown { background: #800080 }"
             "#testIcon { background: #808000 }"));
     }
@@ -81,7 +60,6 @@ private Q_SLOTS:
     {
         CusMenu menu;
         QCOMPARE(menu.minimumWidth(), 180);
-        QCOMPARE(menu.maximumWidth(), 400);
         QCOMPARE(menu.getMenuMaxWidth() + menu.getActionWidth(nullptr), 0);
         const QFontMetrics metrics = menu.fontMetrics();
         const auto widthOf = [&](const QString &text) {
@@ -90,23 +68,19 @@ private Q_SLOTS:
         const QString text = QStringLiteral("Start the live view of the gate");
         QAction own(text);
         QMenu submenu(text + QStringLiteral("mm"));
-        menu.addAction(QStringLiteral("A"));
-        QCOMPARE(menu.minimumWidth(), 180);
         menu.addAction(&own);
         own.setShortcut(QKeySequence(QStringLiteral("Ctrl+L")));
         QCOMPARE(menu.getActionWidth(&own),
                  widthOf(text) + 10 + metrics.boundingRect(QStringLiteral("Ctrl+L")).width());
         QCOMPARE(menu.minimumWidth(), widthOf(text));
-        QCOMPARE(menu.addMenu(&submenu), submenu.menuAction());
+        menu.addMenu(&submenu);
         QCOMPARE(menu.minimumWidth(), widthOf(submenu.title()));
         QCOMPARE(menu.getMenuMaxWidth(), menu.getActionWidth(&own));
         menu.addAction(QIcon(), text, nullptr, nullptr);
-
-        const int count = menu.actions().size();
         menu.addAction(static_cast<QAction *>(nullptr));
         menu.addActions({nullptr, nullptr});
         QVERIFY(!menu.addMenu(static_cast<QMenu *>(nullptr)));
-        QCOMPARE(menu.actions().size(), count);
+        QCOMPARE(menu.actions().size(), 3);
         menu.addMenu(kLong);
         menu.clear();
         QCOMPARE(menu.minimumWidth(), 400);
@@ -115,15 +89,16 @@ private Q_SLOTS:
     void marksStandInTheirColumns()
     {
         CusMenu menu;
-        QAction *check = addChecked(&menu);
+        QAction *check = menu.addAction(QStringLiteral("Mark"));
+        check->setCheckable(true);
+        check->setChecked(true);
         check->setEnabled(false);
         auto *svg = new CusSvgAction(QStringLiteral("testIcon"), QStringLiteral("Mark"), &menu);
         menu.addAction(svg);
-        CusMenu submenu(QStringLiteral("Mark"));
-        QAction *branch = menu.addMenu(&submenu);
-        for (Qt::LayoutDirection direction : {Qt::RightToLeft, Qt::LeftToRight}) {
-            const bool mirrored = direction == Qt::RightToLeft;
-            menu.setLayoutDirection(direction);
+        QAction *branch = menu.addMenu(QStringLiteral("Mark"))->menuAction();
+        menu.setActiveAction(svg);
+        for (const bool mirrored : {true, false}) {
+            menu.setLayoutDirection(mirrored ? Qt::RightToLeft : Qt::LeftToRight);
             menu.resize(menu.sizeHint());
             const QImage image = TestKit::renderAt(&menu);
             const auto found = [&](QAction *action, QRgb color) {
@@ -135,22 +110,15 @@ private Q_SLOTS:
             QCOMPARE(found(check, 0x00ff00), QRect(kLeft, top, 16, 16));
             QCOMPARE(found(svg, 0x808000), QRect(kLeft, (row.height() - 20) / 2, 20, 20));
             QCOMPARE(found(branch, mirrored ? 0x800080 : 0xff8000), QRect(end, top, 16, 16));
+            QCOMPARE(found(svg, 0x00ffff).size(), row);
             // The texts of all rows begin, or end, at one line; a disabled one is dim.
             const QRect text = found(svg, 0x0000ff);
             QCOMPARE(found(branch, 0x0000ff).left(), text.left());
             QCOMPARE(found(check, 0x8080ff).left(), text.left());
             QVERIFY(found(check, 0x0000ff).isEmpty());
-            QVERIFY(qAbs(mirrored ? text.right() - (end - kSpace)
-                                  : text.left() - (kLeft + kIcon + kSpace))
-                    <= 3);
+            const int edge = mirrored ? end - kSpace : kLeft + kIcon + kSpace;
+            QVERIFY(qAbs((mirrored ? text.right() : text.left()) - edge) <= 3);
         }
-        branch->setEnabled(false);
-        QVERIFY(TestKit::countOf(TestKit::renderAt(&menu), QColor(0x808080)) >= 256);
-        menu.setActiveAction(svg);
-        QCOMPARE(
-            TestKit::renderAt(&menu).pixelColor(menu.actionGeometry(svg).topLeft() + QPoint(90, 1)),
-            QColor(0x00ffff));
-
         menu.setLeftActionMargin(30);
         QCOMPARE(TestKit::extentOf(TestKit::renderAt(&menu), QColor(0x00ff00)).left(),
                  menu.actionGeometry(check).left() + 30);
@@ -158,37 +126,29 @@ private Q_SLOTS:
         menu.setRightActionMargin(std::numeric_limits<int>::min());
         menu.addAction(QStringLiteral("Mark"));
         menu.grab();
-        QVERIFY(menu.minimumWidth() >= 180 && menu.minimumWidth() <= 400);
     }
 
     void shortcutsStandBehindTheText()
     {
         const QString gate = QStringLiteral("Gate"), key = QStringLiteral("Ctrl+L");
-        const QString events = QStringLiteral("12 events");
-        const struct
-        {
-            QString text, shortcut;
-            bool shows;
-            QStringList drawn;
-        } rows[] = {
+        const std::tuple<QString, QString, bool, QStringList> rows[] = {
             {gate, key, true, {key, gate}},
             {gate, key, false, {gate}},
-            {gate + QLatin1Char('\t') + events, QString(), true, {events, gate}},
-            {QLatin1Char('\t') + gate, QString(), true, {QLatin1Char(' ') + gate}},
+            {gate + QStringLiteral("\t12 events"), {}, true, {QStringLiteral("12 events"), gate}},
+            {QLatin1Char('\t') + gate, {}, true, {QLatin1Char(' ') + gate}},
         };
-        for (const auto &row : rows) {
+        for (const auto &[text, shortcut, shows, drawn] : rows) {
             CusMenu menu;
-            QAction *action = menu.addAction(row.text);
-            action->setShortcut(QKeySequence(row.shortcut));
-            action->setShortcutVisibleInContextMenu(row.shows);
+            QAction *action = menu.addAction(text);
+            action->setShortcut(QKeySequence(shortcut));
+            action->setShortcutVisibleInContextMenu(shows);
             menu.resize(menu.sizeHint());
             // What the base drew comes first, and is covered.
-            QStringList last = textsOf(&menu);
-            last = last.mid(last.size() - row.drawn.size());
-            QCOMPARE(last, row.drawn);
+            const QStringList all = textsOf(&menu);
+            QCOMPARE(all.mid(all.size() - drawn.size()), drawn);
             const int end = menu.width() - 1 - kRight - kIcon - kSpace;
             const QRect ink = TestKit::extentOf(TestKit::renderAt(&menu), Qt::blue, 80);
-            QCOMPARE(qAbs(ink.right() - end) <= 4, row.drawn.size() == 2);
+            QCOMPARE(qAbs(ink.right() - end) <= 4, drawn.size() == 2);
         }
     }
 
@@ -210,19 +170,22 @@ private Q_SLOTS:
         const QRect row = menu.actionGeometry(overlong);
         const QImage edge = TestKit::renderAt(&menu).copy(399, row.top(), 1, row.height());
         QCOMPARE(TestKit::countOf(edge, Qt::black), row.height());
-
-        QVERIFY(sendTipEvent(&menu, fits));
-        QCOMPARE(shownTip(), QString());
-        QVERIFY(sendTipEvent(&menu, overlong));
-        QCOMPARE(shownTip(), kLong);
+        // Qt makes the rows wider than the menu where their texts are.
+        const auto placeIn = [&](QAction *action) {
+            return menu.actionGeometry(action).topLeft() + QPoint(60, 8);
+        };
+        for (QAction *action : {fits, overlong}) {
+            QHelpEvent event(QEvent::ToolTip, placeIn(action), menu.mapToGlobal(placeIn(action)));
+            QVERIFY(QApplication::sendEvent(&menu, &event));
+            QCOMPARE(shownTip(), action == fits ? QString() : kLong);
+        }
         menu.close();
         QTRY_COMPARE(shownTip(), QString());
 
         // A submenu that opens by the timer takes the events that would ask for the tip.
-        menu.removeAction(overlong);
         delete overlong;
         menu.popup(kPopup);
-        const QPoint place = placeIn(menu, events->menuAction());
+        const QPoint place = placeIn(events->menuAction());
         QCursor::setPos(menu.mapToGlobal(place));
         QTest::mouseMove(&menu, place - QPoint(5, 0));
         QTest::mouseMove(&menu, place);
@@ -235,30 +198,24 @@ private Q_SLOTS:
         QAction *live = menu.addAction(QStringLiteral("&Live"));
         QAction *motion = menu.addAction(QStringLiteral("&Motion"));
         motion->setCheckable(true);
-        CusMenu submenu(QStringLiteral("&Stream"));
-        QAction *stream = submenu.addAction(QStringLiteral("Sub stream"));
-        menu.addMenu(&submenu);
-        const auto flags = Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint | Qt::Popup;
-        QCOMPARE(menu.windowFlags() & flags, flags);
-        QVERIFY(menu.testAttribute(Qt::WA_TranslucentBackground) && menu.toolTipsVisible());
-        QAccessibleInterface *face = QAccessible::queryAccessibleInterface(&menu);
+        QMenu *submenu = menu.addMenu(QStringLiteral("&Stream"));
+        QAction *stream = submenu->addAction(QStringLiteral("Sub stream"));
+        const QAccessibleInterface *face = QAccessible::queryAccessibleInterface(&menu);
         QCOMPARE(face->role(), QAccessible::PopupMenu);
         QCOMPARE(face->child(1)->text(QAccessible::Name), QStringLiteral("Motion"));
 
         QSignalSpy triggered(&menu, &QMenu::triggered);
-        const QVector<QVector<Qt::Key>> all{{Qt::Key_Down, Qt::Key_Return},
-                                            {Qt::Key_M},
-                                            {Qt::Key_Up, Qt::Key_Right, Qt::Key_Return},
-                                            {Qt::Key_Escape}};
+        const QVector<QPair<QAction *, QVector<Qt::Key>>> all{
+            {live, {Qt::Key_Down, Qt::Key_Return}},
+            {motion, {Qt::Key_M}},
+            {stream, {Qt::Key_Up, Qt::Key_Right, Qt::Key_Return}}};
         for (const auto &keys : all) {
             menu.popup(kPopup);
-            for (Qt::Key key : keys)
+            for (Qt::Key key : keys.second)
                 QTest::keyClick(QApplication::activePopupWidget(), key);
             QVERIFY(!menu.isVisible());
+            QCOMPARE(triggered.takeLast().first().value<QAction *>(), keys.first);
         }
-        QCOMPARE(triggered.count(), 3);
-        for (QAction *action : {live, motion, stream})
-            QCOMPARE(triggered.takeFirst().first().value<QAction *>(), action);
     }
 
     void oddRows()
@@ -266,7 +223,6 @@ private Q_SLOTS:
         CusMenu menu;
         auto *widgetAction = new QWidgetAction(&menu);
         widgetAction->setDefaultWidget(new QFrame);
-        widgetAction->defaultWidget()->setFixedSize(100, 30);
         widgetAction->setText(QStringLiteral("hidden"));
         menu.addAction(widgetAction);
         menu.addAction(QString(1000000, QLatin1Char('m')));
