@@ -439,7 +439,8 @@ bool CusMenu::event(QEvent *event)
 {
     switch (event->type()) {
     case QEvent::ActionChanged:
-        if (d->takingTip && static_cast<QActionEvent *>(event)->action() == d->takingTip)
+        // clazy:excludeall=wrong-qevent-cast (it doesn't know this type as a QActionEvent)
+        if (d->takingTip == static_cast<QActionEvent *>(event)->action())
             return true;
         break;
     case QEvent::ActionRemoved:
