@@ -161,12 +161,13 @@ void CusTwoSideSegSlider::onSliderValChanged(int val)
         snapped = vellum::toInt(segment * d->rightPerSegVal + middle);
     }
     if (segment != d->lastSegNum || isLeft != d->lastIsLeft) {
-        d->lastSegNum = segment;
-        d->lastIsLeft = isLeft;
         const QPointer<CusTwoSideSegSlider> alive(this);
         Q_EMIT signalSegValChanged(isLeft, segment);
         if (!alive)
             return;
+        // After the emit: whatever a receiver sets, the value below wins, and the record with it.
+        d->lastSegNum = segment;
+        d->lastIsLeft = isLeft;
     }
     const QSignalBlocker blocker(this);
     // CusSlider's setValue() would drop it during a press.
