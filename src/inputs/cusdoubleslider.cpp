@@ -1,5 +1,6 @@
 #include "inputs/cusdoubleslider.h"
 
+#include "common/painterguard.h"
 #include "common/safeint.h"
 #include "inputs/sliderhandle.h"
 
@@ -183,6 +184,13 @@ void CusDoubleSlider::paintEvent(QPaintEvent *event)
     paintValText(&painter);
 }
 
+void CusDoubleSlider::sliderChange(SliderChange change)
+{
+    if (change == SliderRangeChange)
+        vellum::avoidFatalRange(this);
+    QSlider::sliderChange(change);
+}
+
 void CusDoubleSlider::updateCurVal(int value)
 {
     d->doubleVal = qMin(value * d->valueStep, d->doubleMax);
@@ -220,6 +228,7 @@ void CusDoubleSlider::paintSlider(QPainter *painter)
     initStyleOption(&option);
     if (isSliderDown())
         option.state |= QStyle::State_Sunken;
+    const vellum::PainterGuard guard(painter);
     d->handle.paint(painter, option, this);
 }
 

@@ -58,6 +58,7 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void sliderChange(SliderChange change) override;
 
 private Q_SLOTS:
     void updateCurVal(int value);

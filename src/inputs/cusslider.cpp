@@ -61,7 +61,7 @@ struct CusSlider::Private
     int offsetY = 0;
     bool mousePressed = false;
     bool labelIsChild = false;
-    // The slider chose the label's parent, so it looks anew when it is itself moved elsewhere.
+    // The slider chose the label's parent, so the label goes along when the slider is moved.
     bool labelParentIsOurs = true;
     QPoint lastGlobalPos;
     vellum::SliderHandle handle;
@@ -374,6 +374,15 @@ void CusSlider::changeEvent(QEvent *event)
     QSlider::changeEvent(event);
     if (event->type() == QEvent::EnabledChange && !isEnabled())
         d->mousePressed = false;
+    else if (event->type() == QEvent::ParentChange && d->label && d->labelParentIsOurs)
+        d->label->setParent(this);
+}
+
+void CusSlider::sliderChange(SliderChange change)
+{
+    if (change == SliderRangeChange)
+        vellum::avoidFatalRange(this);
+    QSlider::sliderChange(change);
 }
 
 /// The label is a widget that the style sheet has to polish, which would nearly double the cost of
@@ -396,8 +405,10 @@ QLabel *CusSlider::ensureLabel()
 
 void CusSlider::moveLabelTo(QWidget *parent)
 {
+    if (!parent)
+        return;
     QLabel *label = ensureLabel();
-    if (!parent || parent == label || label->isAncestorOf(parent))
+    if (parent == label || label->isAncestorOf(parent))
         return;
     d->labelParentIsOurs = parent == this;
     if (parent == label->parentWidget())
@@ -423,12 +434,9 @@ bool CusSlider::updateLabelParentWid()
     if (!d->label || d->textPos != TEXT_POS_ON_HANDLE)
         return false;
     QWidget *parent = d->label->parentWidget();
-    if (parent && d->labelParentIsOurs && parent != this && !parent->isAncestorOf(this))
-        parent = this;
     const int top = globalPlace(this).y() - kRoomAboveSlider;
-    // In another window the label would be hidden behind this one.
     while (parent && globalPlace(parent).y() > top)
-        parent = parent->isWindow() ? nullptr : parent->parentWidget();
+        parent = parent->parentWidget();
     if (!parent || parent == d->label->parentWidget())
         return false;
     d->labelParentIsOurs = true;

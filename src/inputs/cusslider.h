@@ -17,7 +17,7 @@ class QLabel;
 ///
 /// The handle is a hidden button that the application's style sheet dresses by its object name,
 /// "btn_sliderHandle". A press of the left button anywhere, on a vertical slider too, sets the
-/// value from the press's distance to the edge of the minimum, less 10 pixels of the width.
+/// value by the press's distance to the edge of the minimum, in shares of the width less 10 pixels.
 /// Keyboard and wheel are QSlider's. Values are any int; where the range is empty or the slider too
 /// narrow for a computation, that step is left out.
 class VELLUM_EXPORT CusSlider : public QSlider
@@ -146,6 +146,7 @@ protected:
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void sliderChange(SliderChange change) override;
 
 private:
     QLabel *ensureLabel();

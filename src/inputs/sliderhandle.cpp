@@ -1,6 +1,7 @@
 #include "inputs/sliderhandle.h"
 
 #include "common/painterguard.h"
+#include "common/safeint.h"
 #include "delegates/styledelegatecomfun.h"
 #include "delegates/svgtwin.h"
 
@@ -86,7 +87,14 @@ int fromMinimumEdge(int x, const QStyleOptionSlider &option)
 {
     if (option.orientation != Qt::Horizontal || !option.upsideDown)
         return x;
-    return option.rect.x() + option.rect.width() - 1 - x;
+    return toInt(double(option.rect.x()) + option.rect.width() - 1 - x);
+}
+
+void avoidFatalRange(QSlider *slider)
+{
+    constexpr qint64 kFatal = qint64(1) << 31; // twice that is 0 in 32 bits
+    if (qint64(slider->maximum()) - slider->minimum() == kFatal)
+        slider->setMaximum(slider->maximum() - 1);
 }
 
 } // namespace vellum

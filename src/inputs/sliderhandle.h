@@ -41,4 +41,7 @@ private:
 /// a right-to-left layout; \a x itself for a vertical slider.
 int fromMinimumEdge(int x, const QStyleOptionSlider &option);
 
+/// Takes 1 off the maximum where the range is 2^31, by which Qt's styles divide by zero.
+void avoidFatalRange(QSlider *slider);
+
 } // namespace vellum

@@ -35,7 +35,7 @@ std::optional<int> TwoSideGroove::valueAt(int x) const
 {
     const int toMiddle = m_groove.width() / 2;
     const double value = x >= m_groove.x() + toMiddle
-        ? m_center + (x - toMiddle - m_groove.x()) / m_scaleRight
+        ? m_center + (double(x) - toMiddle - m_groove.x()) / m_scaleRight
         : m_minimum + x / m_scaleLeft;
     const double whole = std::trunc(value);
     if (whole < m_minimum || whole > m_maximum)
