@@ -18,9 +18,12 @@ constexpr int kRoomForText = 8;
 constexpr int kLineHeight = 24;
 constexpr int kTextSliderHeight = 40;
 constexpr int kNameWidth = 120;
-constexpr int kVerticalHeight = 124;
+constexpr int kVerticalHeight = 144;
 constexpr int kDefaultBitrate = 40;
 constexpr int kSegments = 5;
+// The centred sliders' colours come from code, so a client mutes them itself.
+const QColor kDisabledGroove{0x42, 0x4E, 0x64};
+const QColor kDisabledFill{0x8A, 0x93, 0xA3};
 
 /// What a card has left over in height goes below its rows.
 QLayout *atTop(QLayout *rows)
@@ -112,6 +115,8 @@ CusSlider *SlidersPage::textSlider(CusSlider::SliderTextPos position, int value)
 {
     auto *slider = new CusSlider(this);
     slider->setFixedHeight(kTextSliderHeight);
+    // The text keeps its distance from the middle; the groove goes down, clear of it.
+    slider->setStyleSheet(QStringLiteral("CusSlider { padding-top: 8px; }"));
     slider->setTextLabelStyleProperty("h12", true);
     slider->registerValueToTextCb([](int percent) { return QStringLiteral("%1 %").arg(percent); });
     slider->setValue(value);
@@ -217,6 +222,11 @@ void SlidersPage::addSegments(QGridLayout *grid)
         slider->setLeftSegment(kSegments);
         slider->setRightSegment(kSegments);
         slider->setToSegment(column == 2, column + 1);
+        if (column == 2) {
+            slider->setDefaultGrooveBrushColor(kDisabledGroove);
+            slider->setUsedGrooveBrushColor(kDisabledFill);
+            slider->setCenterLineColor(kDisabledFill);
+        }
         slider->setEnabled(column == 1);
         connect(slider, &CusTwoSideSegSlider::signalSegValChanged, this,
                 [this](bool isLeft, int segment) {
@@ -248,6 +258,8 @@ void SlidersPage::addCentre(QGridLayout *grid)
             slider->setMaximum(100);
             slider->setCenterVal(sample.center);
             slider->setValue(column == 1 ? sample.value : 80);
+            if (column == 2)
+                slider->setUsedGrooveBrushColor(kDisabledFill);
             slider->setEnabled(column == 1);
             reportValue(slider, sample.name.section(QLatin1Char('\n'), 0, 0));
             grid->addWidget(slider, row, column);
@@ -273,9 +285,10 @@ QLayout *SlidersPage::verticals()
         slider->setValue(row->count() == 0 ? 30 : 65);
         slider->setEnabled(row->count() < 2);
         reportValue(slider, QLatin1String(name));
-        QWidget *box = PageKit::captioned(slider, QLatin1String(name));
-        box->setMinimumWidth(56);
-        row->addWidget(box, 0, Qt::AlignTop);
+        auto *column = new QVBoxLayout;
+        column->addWidget(slider, 0, Qt::AlignHCenter);
+        column->addWidget(PageKit::caption(QLatin1String(name)), 0, Qt::AlignHCenter);
+        row->addLayout(column);
     }
     return row;
 }
