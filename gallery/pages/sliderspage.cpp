@@ -18,7 +18,8 @@ constexpr int kRoomForText = 8;
 constexpr int kLineHeight = 24;
 constexpr int kTextSliderHeight = 40;
 constexpr int kNameWidth = 120;
-constexpr int kVerticalHeight = 144;
+constexpr int kVerticalHeight = 128;
+constexpr int kVerticalWidth = 64;
 constexpr int kDefaultBitrate = 40;
 constexpr int kSegments = 5;
 // The centred sliders' colours come from code, so a client mutes them itself.
@@ -272,25 +273,25 @@ QLayout *SlidersPage::centred()
     auto *grid = namedGrid();
     addSegments(grid);
     addCentre(grid);
-    return grid;
+    return atTop(grid);
 }
 
 QLayout *SlidersPage::verticals()
 {
-    auto *row = new QHBoxLayout;
-    row->setSpacing(kGap);
+    auto *grid = new QGridLayout;
+    grid->setVerticalSpacing(4);
+    int column = 0;
     for (const char *name : {"Pan", "Tilt", "Disabled"}) {
         auto *slider = new CusSlider(Qt::Vertical, this);
         slider->setFixedHeight(kVerticalHeight);
-        slider->setValue(row->count() == 0 ? 30 : 65);
-        slider->setEnabled(row->count() < 2);
+        slider->setValue(column == 0 ? 30 : 65);
+        slider->setEnabled(column < 2);
         reportValue(slider, QLatin1String(name));
-        auto *column = new QVBoxLayout;
-        column->addWidget(slider, 0, Qt::AlignHCenter);
-        column->addWidget(PageKit::caption(QLatin1String(name)), 0, Qt::AlignHCenter);
-        row->addLayout(column);
+        grid->addWidget(slider, 0, column, Qt::AlignHCenter);
+        grid->addWidget(PageKit::caption(QLatin1String(name)), 1, column, Qt::AlignHCenter);
+        grid->setColumnMinimumWidth(column++, kVerticalWidth);
     }
-    return row;
+    return atTop(grid);
 }
 
 const GalleryPage page{90, QStringLiteral("Sliders"), [] { return new SlidersPage; }};
