@@ -33,7 +33,7 @@ void release(QWidget *widget)
     QTest::mouseRelease(widget, Qt::LeftButton);
 }
 
-/// QTest::mouseMove() only moves the cursor, which a widget that isn't shown never learns.
+/// QTest::mouseMove() only moves the cursor.
 void dragTo(QWidget *widget, int x)
 {
     QMouseEvent move(QEvent::MouseMove, QPoint(x, 10), Qt::NoButton, Qt::LeftButton, {});
@@ -135,35 +135,32 @@ private Q_SLOTS:
             slider.setValue(value);
             return slider.value() == value;
         };
-        press(&slider, 100);
-        QVERIFY(!accepts(5));
-        release(&slider);
-        QCOMPARE(slider.value(), 50);
-        QVERIFY(accepts(5));
+        // The last two never see the release.
+        const std::function<void()> ends[] = {
+            [&] { release(&slider); }, [&] { slider.setEnabled(false); }, [&] { slider.hide(); }};
+        for (const auto &end : ends) {
+            slider.setEnabled(true);
+            press(&slider, 100);
+            QVERIFY(!accepts(5));
+            end();
+            QCOMPARE(slider.value(), 50);
+            QVERIFY(accepts(5));
+        }
         press(&slider, 150, Qt::RightButton);
         QVERIFY(accepts(6));
-        // A release that never comes.
-        press(&slider, 100);
-        slider.hide();
-        QVERIFY(accepts(7));
-        slider.show();
-        press(&slider, 100);
-        slider.setEnabled(false);
-        QVERIFY(accepts(8));
     }
 
     void dragStopsOutsideTheValidRange()
     {
+        Stage stage;
+        stage.slider->setValidMax(70);
         for (const bool checked : {false, true}) {
-            Stage stage;
-            stage.slider->setValidMax(70);
             stage.slider->setCheckValidRange(checked);
             stage.slider->setValue(80);
             press(stage.slider, stage.slider->handle().center().x());
-            const int pressed = stage.slider->value();
-            QVERIFY(pressed > 70);
             dragTo(stage.slider, 40);
-            QVERIFY(checked ? stage.slider->value() == pressed : stage.slider->value() < 30);
+            QCOMPARE(stage.slider->value() > 70, checked);
+            release(stage.slider);
         }
     }
 
@@ -185,17 +182,13 @@ private Q_SLOTS:
         for (int offset : {kIntMin, kIntMax})
             slider->setOffsetY(offset);
         slider->setLabelTextPos(CusSlider::TEXT_POS_ON_HANDLE);
-        slider->setValue(20);
         const QPoint middle = slider->handle().center() + slider->pos();
-        QVERIFY(qAbs(stage.label->geometry().center().x() - middle.x()) <= 1);
-        QVERIFY(qAbs(stage.label->y() + 21 - middle.y()) <= 1);
+        const QPoint above21(stage.label->geometry().center().x(), stage.label->y() + 21);
+        QVERIFY((above21 - middle).manhattanLength() <= 2);
         slider->enableLabelIsChild(true);
-        QCOMPARE(stage.label->parentWidget(), slider);
         QCOMPARE(stage.label->y(), 0); // as a child it stays inside
         slider->setLabelTextPos(CusSlider::TEXT_POS_NONE);
-        QVERIFY(!stage.label->isVisible());
-        enter(slider);
-        QVERIFY(stage.label->text().isEmpty());
+        QVERIFY(!stage.label->isVisible() && stage.label->text().isEmpty());
     }
 
     void textFollowsTheMouse()
@@ -218,8 +211,8 @@ private Q_SLOTS:
         // Where the cursor's text would not fit, it is moved left by the excess.
         QCursor::setPos(slider->mapToGlobal(QPoint(209, 10)));
         dragTo(slider, 209);
-        const auto metrics = stage.label->fontMetrics();
-        QCOMPARE(stage.label->x(), 210 - metrics.horizontalAdvance(QStringLiteral("995 km/h")));
+        const QString atCursor = QStringLiteral("995 km/h");
+        QCOMPARE(stage.label->x(), 210 - stage.label->fontMetrics().horizontalAdvance(atCursor));
         QCursor::setPos(slider->mapToGlobal(QPoint(105, -50)));
         slider->setValue(30);
         QCOMPARE(stage.label->pos(), QPoint(0, 0));
@@ -231,18 +224,13 @@ private Q_SLOTS:
         auto *box = new QWidget(&window);
         auto *slider = new CusSlider(box);
         box->setGeometry(0, 100, 300, 30);
-        slider->setGeometry(40, 5, 210, 20);
         slider->setLabelTextPos(CusSlider::TEXT_POS_ON_HANDLE);
         auto *label = slider->findChild<QLabel *>();
         window.show();
         TestKit::renderAt(&window);
         QCOMPARE(label->parentWidget(), &window);
-        QVERIFY(label->isVisible());
-        QVERIFY(label->geometry().center().y() < 115);
-        // It goes along into another window.
-        slider->setParent(&elsewhere);
-        slider->setGeometry(40, 50, 210, 20);
-        elsewhere.show();
+        QVERIFY(label->isVisible() && label->geometry().center().y() < 115);
+        slider->setParent(&elsewhere); // and the label goes along
         slider->show();
         TestKit::renderAt(&elsewhere);
         QCOMPARE(label->window(), &elsewhere);
@@ -255,31 +243,28 @@ private Q_SLOTS:
         slider->hide();
         QVERIFY(!stage.label->isVisible());
         slider->show();
-        QVERIFY(stage.label->isVisible());
-        slider->setAllwaysShowText(false);
         QEvent leave(QEvent::Leave);
-        QApplication::sendEvent(slider, &leave);
-        QVERIFY(!stage.label->isVisible());
+        for (bool stays : {true, false}) {
+            slider->setAllwaysShowText(stays);
+            QApplication::sendEvent(slider, &leave);
+            QCOMPARE(stage.label->isVisible(), stays);
+        }
         slider->setAllwaysShowText(true);
         enter(slider);
         QVERIFY(stage.label->isVisible());
-        QCOMPARE(slider->cursor().shape(), Qt::PointingHandCursor);
         for (int size : {17, 0, kIntMin})
             slider->setTextLabelFontSize(size);
         QCOMPARE(stage.label->font().pixelSize(), 17);
-
         // The label dies with whichever of its parent and the slider goes first.
         auto *other = new QWidget(&stage.window);
-        for (QWidget *parent : {other, static_cast<QWidget *>(nullptr)})
-            slider->setLabelParentWidget(parent);
-        QCOMPARE(stage.label->parentWidget(), other);
+        slider->setLabelParentWidget(other);
+        slider->setLabelParentWidget(nullptr);
         delete other;
         QVERIFY(!stage.label);
         slider->setValue(3);
         slider->setLabelParentWidget(&stage.window);
         stage.label = stage.window.findChild<QLabel *>();
         slider->setLabelParentWidget(stage.label);
-        QCOMPARE(stage.label->parentWidget(), &stage.window);
         delete slider;
         QVERIFY(!stage.label);
     }
@@ -292,10 +277,8 @@ private Q_SLOTS:
             slider.setTickMark(value);
             return extent(slider, Qt::green);
         };
-        QCOMPARE(tick(60).left(), 64);
+        QCOMPARE(tick(60).topLeft(), QPoint(64, 0));
         QCOMPARE(tick(60).width(), 2);
-        QCOMPARE(tick(60).top(), 0);
-        QVERIFY(qAbs(tick(60).bottom() - 14) <= 1);
         slider.setValue(60);
         for (int hidden : {60, kIntMin, kIntMax, -1000})
             QCOMPARE(tick(hidden), QRect());
@@ -309,8 +292,8 @@ private Q_SLOTS:
     {
         QTemporaryFile file;
         QVERIFY(file.open());
-        file.write("<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 8 8\">"
-                   "<rect width=\"8\" height=\"8\" fill=\"#ff0000\"/></svg>");
+        file.write("<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 8 8'>"
+                   "<rect width='8' height='8' fill='#ff0000'/></svg>");
         file.close();
         const QString handle =
             QStringLiteral("CusSvgPushButton#btn_sliderHandle { background: transparent;"
@@ -330,22 +313,20 @@ private Q_SLOTS:
         stage.slider->setValue(100);
         enter(stage.slider);
         const QRect place(194, 2, 16, 16);
-        const auto underCursorAt = [&stage](int x) {
+        const auto stampAt = [&stage](int x, const QColor &color) {
             QCursor::setPos(stage.slider->mapToGlobal(QPoint(x, 10)));
+            return extent(*stage.slider, color);
         };
-        underCursorAt(20);
+        QCOMPARE(stampAt(20, Qt::red), place);
         QVERIFY(stage.slider->isMouseHover());
-        QCOMPARE(extent(*stage.slider, Qt::red), place);
         // The ground that clears the style's handle spares the filled part.
         QCOMPARE(extent(*stage.slider, Qt::blue), QRect(0, 8, 194, 4));
-        underCursorAt(200);
-        QCOMPARE(extent(*stage.slider, Qt::green), place);
+        QCOMPARE(stampAt(200, Qt::green), place);
         press(stage.slider, 200);
-        QCOMPARE(extent(*stage.slider, Qt::yellow), place);
+        QCOMPARE(stampAt(200, Qt::yellow), place);
         release(stage.slider);
         stage.slider->setEnabled(false);
-        QCOMPARE(extent(*stage.slider, Qt::cyan), place);
-
+        QCOMPARE(stampAt(200, Qt::cyan), place);
         qApp->setStyleSheet(QString());
     }
 
@@ -360,11 +341,6 @@ private Q_SLOTS:
                 s.setDoubleValueRange(5, bad);
             }
             s.setDoubleVal(kNan);
-        };
-        const auto turnOver = [](S &s) {
-            s.setDoubleMinimum(10);
-            s.setDoubleMaximum(5);
-            s.setDoubleVal(7);
         };
         const struct // each begins with 0 to 100 by 0.01 at 20
         {
@@ -382,7 +358,10 @@ private Q_SLOTS:
             {"step as large as the range", [](S &s) { s.setValueStep(100); }, {0, 10000}, 20},
             {"step too small", [](S &s) { s.setValueStep(1e-300); }, {0, kIntMax}, 20},
             {"huge maximum", [](S &s) { s.setDoubleMaximum(1e300); }, {0, kIntMax}, 20},
-            {"maximum below minimum", turnOver, {1000, 1000}, 5},
+            {"maximum below minimum",
+             [](S &s) { s.setDoubleMinimum(10), s.setDoubleMaximum(5), s.setDoubleVal(7); },
+             {1000, 1000},
+             5},
             {"value is kept within", [](S &s) { s.setDoubleVal(kInfinite); }, {0, 10000}, 100},
             {"no numbers", setNothing, {0, 10000}, 20},
         };
@@ -405,7 +384,6 @@ private Q_SLOTS:
         slider.setPageStep(1000);
         QSignalSpy changes(&slider, &CusDoubleSlider::signalValueChanged);
         QSignalSpy releases(&slider, &CusDoubleSlider::signalMouseReleased);
-        // The second press is one page on, which the base must not take from the signal.
         for (int x : {50, 70}) {
             press(&slider, x);
             QCOMPARE(changes.count(), 1);
@@ -427,63 +405,62 @@ private Q_SLOTS:
     void doublePaintsItsText()
     {
         CusDoubleSlider slider;
-        slider.resize(200, 20);
-        QPalette palette;
-        palette.setColor(QPalette::WindowText, Qt::red);
-        slider.setPalette(palette);
+        slider.setStyleSheet(QStringLiteral("color: red"));
         slider.setDoubleVal(12.34);
-        const auto texts = [&slider] {
-            return TestKit::drawnTexts([&](QPaintDevice *to) { slider.render(to); }, Qt::red);
+        const auto text = [&slider] {
+            const auto draw = [&slider](QPaintDevice *to) { slider.render(to); };
+            return TestKit::drawnTexts(draw, Qt::red).join(QLatin1Char('|'));
         };
-        QCOMPARE(texts(), QStringList{QStringLiteral("12.3")});
+        QCOMPARE(text(), QStringLiteral("12.3"));
         slider.registerValToTextCb([](double v) { return QStringLiteral("x%1").arg(v); });
-        QCOMPARE(texts(), QStringList{QStringLiteral("x12.34")});
+        QCOMPARE(text(), QStringLiteral("x12.34"));
         slider.setAllwaysShowText(false);
-        QCOMPARE(texts(), QStringList());
-        QVERIFY(slider.findChild<QLabel *>(QStringLiteral("label_sliderText"))->isHidden());
+        QCOMPARE(text(), QString());
     }
 
     void segmentsSnap()
     {
         CusTwoSideSegSlider slider;
-        const auto valuesAfter = [&slider](const QVector<int> &values) {
+        const auto snapped = [&slider](const QVector<int> &values) {
             QVector<int> shown;
             for (int value : values) {
-                slider.setValue(50);
                 slider.setValue(value);
                 shown.append(slider.value());
             }
             return shown;
         };
         // Until a number of segments was set, each is one value wide.
-        QCOMPARE(valuesAfter({50, 80, 3}), (QVector<int>{50, 51, 49}));
+        QCOMPARE(snapped({80, 3, 50}), (QVector<int>{51, 49, 50}));
         slider.setLeftSegment(5);
         slider.setRightSegment(5);
-        for (int bad : {0, -3, kIntMin}) {
-            slider.setLeftSegment(bad);
-            slider.setRightSegment(bad);
+        for (int bad : {0, kIntMin, 1000}) {
+            slider.setRightSegment(qMin(bad, 0));
             slider.setMinimum(bad);
-            slider.setMaximum(1000);
+            slider.setMaximum(bad);
         }
         QCOMPARE(Limits(slider.minimum(), slider.maximum()), Limits(0, 100));
-        QCOMPARE(valuesAfter({46, 45, 44, 40, 39, 0}), (QVector<int>{50, 50, 40, 30, 30, 0}));
-        QCOMPARE(valuesAfter({54, 55, 60, 95, 100}), (QVector<int>{50, 60, 70, 100, 100}));
+        QCOMPARE(snapped({46, 45, 44, 39, 0, 50}), (QVector<int>{50, 50, 40, 30, 0, 50}));
+        QCOMPARE(snapped({54, 55, 95, 50}), (QVector<int>{50, 60, 100, 50}));
         QSignalSpy reached(&slider, &CusTwoSideSegSlider::signalSegValChanged);
-        for (int value : {0, 1, 60, 53, 48}) // 1 is in the same segment as 0
-            slider.setValue(value);
+        snapped({0, 1, 60, 53, 48}); // 1 is in the same segment as 0
         const QList<QVariantList> expected{{true, 5}, {false, 2}, {false, 0}, {true, 0}};
         QCOMPARE(QList<QVariantList>(reached), expected);
-        const auto valueAt = [&slider](bool isLeft, int segment) {
-            slider.setToSegment(isLeft, segment);
-            return slider.value();
+        const std::tuple<bool, int, int> segments[] = {
+            {true, 2, 30},  {true, kIntMax, 0}, {true, -3, 50},
+            {false, 2, 70}, {false, 9, 100},    {false, kIntMin, 50},
         };
-        QCOMPARE(valueAt(true, 2), 30);
-        QCOMPARE(valueAt(true, kIntMax), 0);
-        QCOMPARE(valueAt(true, -3), 50);
-        QCOMPARE(valueAt(false, 2), 70);
-        QCOMPARE(valueAt(false, 9), 100);
-        QCOMPARE(valueAt(false, kIntMin), 50);
+        for (const auto &[isLeft, segment, value] : segments) {
+            slider.setToSegment(isLeft, segment);
+            QCOMPARE(slider.value(), value);
+        }
         QCOMPARE(reached.count(), 4);
+        // What a receiver sets meanwhile does not part the record from the value.
+        connect(&slider, &CusTwoSideSegSlider::signalSegValChanged, &slider,
+                [&slider](bool, int segment) { segment == 4 ? slider.setValue(50) : void(); });
+        slider.setValue(85);
+        QCOMPARE(slider.value(), 90);
+        slider.setValue(50);
+        QCOMPARE(reached.count(), 7);
     }
 
     void segmentsArePaintedFromTheCentre()
@@ -493,19 +470,16 @@ private Q_SLOTS:
         slider.setStyleSheet(kGroove);
         slider.setLeftSegment(5);
         slider.setCenterLineColor(Qt::yellow);
-        for (bool valid : {true, false}) {
-            slider.setDefaultGrooveBrushColor(valid ? QColor(Qt::red) : QColor());
-            slider.setUsedGrooveBrushColor(valid ? QColor(Qt::blue) : QColor());
-        }
+        slider.setDefaultGrooveBrushColor(Qt::red);
+        slider.setUsedGrooveBrushColor(Qt::blue);
+        slider.setUsedGrooveBrushColor(QColor());
         QCOMPARE(extent(slider, Qt::red), QRect(0, 13, 200, 4));
         // Over the handle, which is here now.
-        QCOMPARE(extent(slider, Qt::yellow).width(), 2);
-        QCOMPARE(extent(slider, Qt::yellow).height(), 10);
-        QCOMPARE(extent(slider, Qt::blue), QRect());
+        QCOMPARE(extent(slider, Qt::yellow).size(), QSize(2, 10));
         slider.setToSegment(true, 2);
-        QCOMPARE(extent(slider, Qt::blue).right(), 98);
-        QCOMPARE(extent(slider, Qt::blue).height(), 2);
-        QVERIFY(qAbs(extent(slider, Qt::blue).left() - 67) <= 3); // to the handle's edge
+        const QRect used = extent(slider, Qt::blue);
+        QCOMPARE(QSize(used.right(), used.height()), QSize(98, 2));
+        QVERIFY(qAbs(used.left() - 67) <= 3); // to the handle's edge
         slider.setToSegment(false, 50);
         QCOMPARE(extent(slider, Qt::blue).left(), 101);
     }
@@ -521,24 +495,22 @@ private Q_SLOTS:
             slider.setPageStep(0);
             slider.setCenterVal(center);
             for (int x : places) {
+                release(&slider);
                 press(&slider, x);
                 values.append(slider.value());
-                release(&slider);
             }
-            press(&slider, 100);
             slider.setValue(3); // which is free even now
             values.append(slider.value());
             dragTo(&slider, 150);
             dragTo(&slider, 300); // no value there
             values.append(slider.value());
-            slider.hide();
             slider.setEnabled(false);
+            slider.setEnabled(true);
             dragTo(&slider, 20);
             return values << slider.value();
         };
-        QCOMPARE(valuesAt(20, {0, 50, 99, 100, 199}), (QVector<int>{0, 10, 19, 20, 99, 3, 60, 60}));
-        QCOMPARE(valuesAt(80, {50, 150}), (QVector<int>{40, 90, 3, 90, 90}));
-        for (int unset : {0, -5, kIntMin})
+        QCOMPARE(valuesAt(20, {0, 50, 99, 199, 100}), (QVector<int>{0, 10, 19, 99, 20, 3, 60, 60}));
+        for (int unset : {0, kIntMin})
             QCOMPARE(valuesAt(unset, {50, 150}), (QVector<int>{25, 75, 3, 75, 75}));
     }
 
@@ -547,19 +519,16 @@ private Q_SLOTS:
         CusTickTwoSideSlider slider;
         slider.resize(200, 20);
         slider.setStyleSheet(kGroove);
-        slider.setMaximum(100);
         slider.setUsedGrooveBrushColor(Qt::blue);
-        const auto fillAt = [&slider](int value) {
+        const auto fillAt = [&slider](int value, int maximum = 100) {
+            slider.setMaximum(maximum);
             slider.setValue(value);
             return extent(slider, Qt::blue);
         };
         // A centre that was not set is stored at its first use.
         QCOMPARE(fillAt(50), QRect());
-        slider.setMaximum(1000);
-        QCOMPARE(fillAt(50), QRect());
-        slider.setMaximum(100);
+        QCOMPARE(fillAt(50, 1000), QRect());
         slider.setCenterVal(20);
-        QCOMPARE(fillAt(20), QRect());
         QCOMPARE(fillAt(10).right(), 99);
         QCOMPARE(fillAt(60).height(), 4);
         QCOMPARE(extent(slider, Qt::green).left(), 99);
@@ -572,21 +541,21 @@ private Q_SLOTS:
         const std::function<QSlider *()> makers[] = {
             [] { return new CusSlider; }, [] { return new CusDoubleSlider; },
             [] { return new CusTwoSideSegSlider; }, [] { return new CusTickTwoSideSlider; }};
-        const QVector<Limits> ranges{{0, 0}, {kIntMin, kIntMax}, {kIntMax, kIntMin}};
+        QPixmap picture(200, 20);
         for (const auto &make : makers) {
-            for (int width : {0, 1, 10, 11, 12, 200}) {
-                for (const Limits &range : ranges) {
+            for (const Limits &range : {Limits(0, 0), {kIntMin, kIntMax}, {kIntMin, 0}}) {
+                for (int width : {0, 1, 10, 11, 12, 200}) {
                     const QScopedPointer<QSlider> slider(make());
                     slider->resize(width, width % 2 == 0 ? 20 : 1);
+                    slider->setInvertedAppearance(width % 2 != 0);
                     slider->setRange(range.first, range.second);
-                    for (int x : {0, 10, 199, -5000}) {
+                    for (int x : {0, 10, 199, kIntMin}) {
                         press(slider.data(), x);
                         dragTo(slider.data(), x + 3);
-                        QPixmap picture(200, 20);
                         slider->render(&picture);
                         release(slider.data());
-                        QVERIFY(!slider->isSliderDown());
                     }
+                    QVERIFY(!slider->isSliderDown());
                 }
             }
         }
@@ -596,35 +565,23 @@ private Q_SLOTS:
     {
         QPointer<QSlider> gone;
         const auto kill = [&gone] { delete gone; };
-        const std::function<void(CusSlider *)> changes[] = {
-            [](CusSlider *slider) { slider->setValue(60); },
-            [](CusSlider *slider) { QTest::keyClick(slider, Qt::Key_End); },
-            [](CusSlider *slider) { press(slider, 100); },
-        };
-        for (const auto &change : changes) {
-            for (bool byText : {false, true}) {
-                auto *slider = byText ? new CusSlider : new CusTickTwoSideSlider;
-                gone = slider;
-                slider->resize(200, 20);
-                slider->setPageStep(0);
-                slider->setLabelTextPos(CusSlider::TEXT_POS_LEFT);
-                if (byText)
-                    slider->registerValueToTextCb([kill](int) { return kill(), QString(); });
-                else
-                    connect(slider, &CusSlider::signalSliderValueChange, kill);
-                change(slider);
-                QVERIFY(!gone);
-            }
+        for (int way = 0; way < 4; ++way) {
+            auto *slider = way % 2 == 0 ? new CusSlider : new CusTickTwoSideSlider;
+            gone = slider;
+            slider->resize(200, 20);
+            slider->setPageStep(0);
+            slider->setLabelTextPos(CusSlider::TEXT_POS_LEFT);
+            if (way % 2 == 0)
+                slider->registerValueToTextCb([kill](int) { return kill(), QString(); });
+            else
+                connect(slider, &CusSlider::signalSliderValueChange, kill);
+            way < 2 ? slider->setValue(60) : press(slider, 100);
+            QVERIFY(!gone);
         }
         auto *segments = new CusTwoSideSegSlider;
         gone = segments;
         connect(segments, &CusTwoSideSegSlider::signalSegValChanged, kill);
         segments->setValue(70);
-        QVERIFY(!gone);
-        auto *doubles = new CusDoubleSlider;
-        gone = doubles;
-        connect(doubles, &CusDoubleSlider::signalValueChanged, kill);
-        doubles->setDoubleValueRange(5, 6);
         QVERIFY(!gone);
     }
 
@@ -633,18 +590,14 @@ private Q_SLOTS:
         CusSlider plain;
         CusDoubleSlider doubles;
         CusTickTwoSideSlider tick;
-        for (QSlider *slider : {static_cast<QSlider *>(&plain), static_cast<QSlider *>(&doubles),
-                                static_cast<QSlider *>(&tick)}) {
+        for (QSlider *slider : std::initializer_list<QSlider *>{&plain, &doubles, &tick}) {
             slider->setMaximum(100);
-            const auto after = [slider](Qt::Key key) {
-                QTest::keyClick(slider, key);
-                return slider->value();
-            };
-            QCOMPARE(after(Qt::Key_Right), 1);
-            QCOMPARE(after(Qt::Key_PageUp), 11);
-            QCOMPARE(after(Qt::Key_PageDown), 1);
-            QCOMPARE(after(Qt::Key_End), 100);
-            QCOMPARE(after(Qt::Key_Left), 99);
+            const std::pair<Qt::Key, int> keys[] = {
+                {Qt::Key_Right, 1}, {Qt::Key_PageUp, 11}, {Qt::Key_End, 100}, {Qt::Key_Left, 99}};
+            for (const auto &key : keys) {
+                QTest::keyClick(slider, key.first);
+                QCOMPARE(slider->value(), key.second);
+            }
             const QPointF pos(5, 5);
             QWheelEvent wheel(pos, pos, {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
             QApplication::sendEvent(slider, &wheel);
@@ -653,13 +606,11 @@ private Q_SLOTS:
             QCOMPARE(accessible->role(), QAccessible::Slider);
             accessible->valueInterface()->setCurrentValue(12);
             QCOMPARE(slider->value(), 12);
-            QMetaObject::invokeMethod(slider, "setValue", Q_ARG(int, 13));
-            QCOMPARE(slider->value(), 13);
         }
         plain.setLayoutDirection(Qt::RightToLeft);
         QTest::keyClick(&plain, Qt::Key_Right);
-        QCOMPARE(plain.value(), 12);
-        QCOMPARE(doubles.getDoubleVal(), 0.13);
+        QCOMPARE(plain.value(), 11);
+        QCOMPARE(doubles.getDoubleVal(), 0.12);
     }
 };
 
