@@ -1,0 +1,3 @@
+#include "models/cusmulselectedcomboboxmodel.h"
+
+CusMulSelectedComboboxModel::~CusMulSelectedComboboxModel() = default;

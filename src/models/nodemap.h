@@ -1,0 +1,113 @@
+#pragma once
+
+#include "models/treenode.h"
+
+#include <QHash>
+#include <QMap>
+
+#include <iterator>
+#include <memory>
+
+namespace vellum {
+
+/// The nodes of a tree by identity, in the order of T::operator<, and the same nodes by address.
+///
+/// Reads like the QMap that it holds. The entries are weak: a node that the tree lets go of dies at
+/// once, and looks like one that never was. A doubled identity has one entry, that of its newest
+/// node, and the address of an older one is unknown.
+template <typename T>
+class NodeMap
+{
+public:
+    using Node = TreeNode<T>;
+    struct Entry : public std::weak_ptr<Node>
+    {
+        Entry() = default;
+        explicit Entry(const std::shared_ptr<Node> &node)
+            : std::weak_ptr<Node>(node)
+            , address(node.get())
+        {
+        }
+        Node *address = nullptr; ///< to be looked into only while the entry is not expired
+    };
+    using Map = QMap<T, Entry>;
+
+    typename Map::const_iterator begin() const { return m_byId.constBegin(); }
+    typename Map::const_iterator end() const { return m_byId.constEnd(); }
+    typename Map::const_iterator constBegin() const { return m_byId.constBegin(); }
+    typename Map::const_iterator constEnd() const { return m_byId.constEnd(); }
+    bool contains(const T &id) const { return m_byId.contains(id); }
+    int size() const { return m_byId.size(); }
+    /// A copy that stays as it is while the tree changes.
+    Map map() const { return m_byId; }
+
+    std::shared_ptr<Node> find(const T &id) const { return m_byId.value(id).lock(); }
+
+    /// The live node at \a address; null for any other address, which is not looked into.
+    Node *known(const void *address) const
+    {
+        const auto found = m_byAddress.constFind(address);
+        return found == m_byAddress.constEnd() || found->expired() ? nullptr : found->address;
+    }
+
+    std::shared_ptr<Node> lock(const void *address) const
+    {
+        return m_byAddress.value(address).lock();
+    }
+
+    /// The live node at \a address that lost its entry to a newer one of its identity.
+    std::shared_ptr<Node> displaced(const void *address) const
+    {
+        return m_displaced.value(address).lock();
+    }
+    bool hasDisplaced() const { return !m_displaced.isEmpty(); }
+    /// Whether more than one node had this identity at a time.
+    bool isDoubled(const T &id) const { return !m_doubled.isEmpty() && m_doubled.contains(id); }
+
+    /// Enters \a node under \a id, in place of what stood there.
+    void insert(const T &id, const std::shared_ptr<Node> &node)
+    {
+        const std::shared_ptr<Node> older = find(id);
+        remove(id);
+        if (older && older != node) {
+            m_doubled.insert(id, true);
+            m_displaced.insert(older.get(), Entry(older));
+        }
+        if (m_byId.size() + m_displaced.size() >= m_sweepAt)
+            sweep();
+        m_byId.insert(id, Entry(node));
+        m_byAddress.insert(node.get(), Entry(node));
+    }
+
+    void remove(const T &id)
+    {
+        const auto found = m_byId.find(id);
+        if (found == m_byId.end())
+            return;
+        m_byAddress.remove(found->address);
+        m_byId.erase(found);
+    }
+
+private:
+    /// Forgets the dead, whose memory a weak pointer keeps; seldom enough to cost nothing.
+    void sweep()
+    {
+        for (auto at = m_byId.begin(); at != m_byId.end();) {
+            if (at->expired())
+                m_byAddress.remove(at->address);
+            at = at->expired() ? m_byId.erase(at) : std::next(at);
+        }
+        for (auto at = m_displaced.begin(); at != m_displaced.end();)
+            at = at->expired() ? m_displaced.erase(at) : std::next(at);
+        m_sweepAt = qMax(kFirstSweep, 2 * (m_byId.size() + m_displaced.size()));
+    }
+
+    static constexpr int kFirstSweep = 256;
+    Map m_byId;
+    QHash<const void *, Entry> m_byAddress;
+    QHash<const void *, Entry> m_displaced;
+    QMap<T, bool> m_doubled;
+    int m_sweepAt = kFirstSweep;
+};
+
+} // namespace vellum
