@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <iterator>
 #include <utility>
 #include <vector>
 
@@ -103,6 +104,7 @@ protected:
 
 private:
     bool holds(const QModelIndex &index) const;
+    static void addUnique(QList<T> &list, const QList<T> &rows, const std::vector<uint> &hashes);
     void sortAndUpdate();
     int insertNewRows(const QList<T> &rows, int next);
     bool sortShown();
@@ -188,22 +190,32 @@ void BasicListModel<T>::addListModelData(const T &row, bool unique)
 template <typename T>
 void BasicListModel<T>::addListModelData(const QList<T> &rows, bool unique)
 {
-    const auto addTo = [unique, added = rows](QList<T> &list) {
-        if (!unique) {
-            list += added;
-            return;
-        }
-        vellum::RowIndex<T> index(list, added.size());
-        for (const T &row : added) {
-            if (index.find(row) >= 0)
-                continue;
-            list.append(row);
-            index.appended(row);
-        }
-    };
-    addTo(showData);
-    addTo(allData);
+    const QList<T> added = rows;
+    if (unique) {
+        std::vector<uint> hashes;
+        std::transform(added.begin(), added.end(), std::back_inserter(hashes),
+                       vellum::RowIndex<T>::hashOf);
+        addUnique(showData, added, hashes);
+        addUnique(allData, added, hashes);
+    } else {
+        showData += added;
+        allData += added;
+    }
     sortAndUpdate();
+}
+
+template <typename T>
+void BasicListModel<T>::addUnique(QList<T> &list, const QList<T> &rows,
+                                  const std::vector<uint> &hashes)
+{
+    vellum::RowIndex<T> index(list, rows.size());
+    for (int i = 0; i < rows.size(); ++i) {
+        const T &row = rows.at(i);
+        if (index.find(row, hashes[size_t(i)]) >= 0)
+            continue;
+        list.append(row);
+        index.appended(hashes[size_t(i)]);
+    }
 }
 
 template <typename T>
@@ -256,7 +268,8 @@ int BasicListModel<T>::insertNewRows(const QList<T> &rows, int next)
     bool inOrder = false;
     for (; next < rows.size(); ++next) {
         const T &row = rows.at(next);
-        const int known = shown.find(row);
+        const uint hash = vellum::RowIndex<T>::hashOf(row);
+        const int known = shown.find(row, hash);
         if (known >= 0) {
             showData[sortCallback ? showData.indexOf(row) : known] = row;
             inOrder = false;
@@ -265,10 +278,10 @@ int BasicListModel<T>::insertNewRows(const QList<T> &rows, int next)
         showData.append(row);
         if (sortCallback)
             arrived.append(row);
-        shown.appended(row);
-        if (all.find(row) < 0) {
+        shown.appended(hash);
+        if (all.find(row, hash) < 0) {
             allData.append(row);
-            all.appended(row);
+            all.appended(hash);
         }
         const QList<T> allBefore = allData;
         const bool untouched = inOrder ? moveLastIntoOrder() : sortShown();

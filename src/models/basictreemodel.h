@@ -134,7 +134,8 @@ private:
     Node *nodeAt(const QModelIndex &index) const;
     int getNeedShowCount(const NodePtr &node) const;
     void deleteTreeNodeWithChild(const T &id);
-    std::vector<NodePtr> liveNodes() const;
+    template <typename Accepts>
+    std::vector<NodePtr> nodesWith(const Accepts &accepts) const;
     bool isReachable(const Node *top, Node *node) const;
     QModelIndex searchBelow(const Node *top, const T &id) const;
     void dropStaleExtras();
@@ -297,7 +298,7 @@ void BasicTreeModel<T>::deleteTreeNodeWithChild(const T &id)
                 parent->children.removeAt(row);
         }
         node->parentNode.reset();
-        nodeMap.remove(nodeId);
+        nodeMap.remove(nodeId, node.get());
         pending.insert(pending.end(), node->children.constBegin(), node->children.constEnd());
         deleted.push_back(node);
     };
@@ -411,7 +412,7 @@ bool BasicTreeModel<T>::setCheckedData(const QModelIndex &, Qt::CheckState)
 template <typename T>
 void BasicTreeModel<T>::setAllCheckState(Qt::CheckState state)
 {
-    for (const NodePtr &node : liveNodes())
+    for (const NodePtr &node : nodesWith([](const Node &) { return true; }))
         node->checkState = state;
     callCheckCountChangeCb();
 }
@@ -422,7 +423,7 @@ void BasicTreeModel<T>::setAllCheckStateWithFilter(Qt::CheckState state,
 {
     const QPointer<QAbstractItemModel> self(this);
     const std::function<bool(Node *)> accepts = filter;
-    for (const NodePtr &node : liveNodes()) {
+    for (const NodePtr &node : nodesWith([](const Node &) { return true; })) {
         if (accepts(node.get()))
             node->checkState = state;
     }
@@ -525,7 +526,7 @@ bool BasicTreeModel<T>::clearChildNode(const NodePtr &node)
             if (!child)
                 continue;
             child->parentNode.reset();
-            nodeMap.remove(child->nodeId);
+            nodeMap.remove(child->nodeId, child.get());
             if (!child->children.isEmpty())
                 pending.push_back(std::move(child->children));
         }
@@ -553,16 +554,16 @@ void BasicTreeModel<T>::updateNodeId(const T &id)
     nodeMap.insert(nodeId, node);
 }
 
-/// The nodes of the map but for the root, in its order.
+/// The nodes of the map but for the root, in its order, for which \a accepts(node) holds.
 template <typename T>
-std::vector<typename BasicTreeModel<T>::NodePtr> BasicTreeModel<T>::liveNodes() const
+template <typename Accepts>
+std::vector<typename BasicTreeModel<T>::NodePtr>
+BasicTreeModel<T>::nodesWith(const Accepts &accepts) const
 {
     std::vector<NodePtr> nodes;
-    nodes.reserve(size_t(nodeMap.size()));
     for (const auto &entry : nodeMap) {
-        NodePtr node = entry.lock();
-        if (node && node != rootNode)
-            nodes.push_back(std::move(node));
+        if (!entry.expired() && entry.address != rootNode.get() && accepts(*entry.address))
+            nodes.push_back(entry.lock());
     }
     return nodes;
 }
@@ -571,23 +572,17 @@ template <typename T>
 QList<typename BasicTreeModel<T>::NodePtr>
 BasicTreeModel<T>::getCheckedNode(bool withBranches) const
 {
-    QList<NodePtr> checked;
-    for (const NodePtr &node : liveNodes()) {
-        if (node->checkState == Qt::Checked && (withBranches || node->children.isEmpty()))
-            checked.append(node);
-    }
-    return checked;
+    const std::vector<NodePtr> checked = nodesWith([withBranches](const Node &node) {
+        return node.checkState == Qt::Checked && (withBranches || node.children.isEmpty());
+    });
+    return QList<NodePtr>(checked.begin(), checked.end());
 }
 
 template <typename T>
 QList<typename BasicTreeModel<T>::NodePtr> BasicTreeModel<T>::getExpandNode() const
 {
-    QList<NodePtr> expanded;
-    for (const NodePtr &node : liveNodes()) {
-        if (node->expanded)
-            expanded.append(node);
-    }
-    return expanded;
+    const std::vector<NodePtr> expanded = nodesWith([](const Node &node) { return node.expanded; });
+    return QList<NodePtr>(expanded.begin(), expanded.end());
 }
 
 template <typename T>
@@ -597,11 +592,9 @@ void BasicTreeModel<T>::getExpandIndex(QList<QModelIndex> &indexes) const
     // While the tree stands still, each node is followed up to the root once.
     ++m_walk;
     m_walking = true;
-    for (const NodePtr &node : liveNodes()) {
-        node->expanded = node->expanded && !node->children.isEmpty();
-        if (!node->expanded)
-            continue;
-        const QModelIndex index = indexFromNodeId(node->nodeId);
+    for (const NodePtr &node : nodesWith([](const Node &any) { return any.expanded; })) {
+        node->expanded = !node->children.isEmpty();
+        const QModelIndex index = node->expanded ? indexFromNodeId(node->nodeId) : QModelIndex();
         if (index.isValid())
             indexes.append(index);
     }
@@ -617,18 +610,14 @@ QModelIndex BasicTreeModel<T>::getFirstIndex() const
 template <typename T>
 bool BasicTreeModel<T>::havePlayingNode() const
 {
-    const std::vector<NodePtr> nodes = liveNodes();
-    return std::any_of(nodes.begin(), nodes.end(),
-                       [](const NodePtr &node) { return node->playing; });
+    return !nodesWith([](const Node &node) { return node.playing; }).empty();
 }
 
 template <typename T>
 void BasicTreeModel<T>::setAllNodeExpandState(bool expanded)
 {
-    for (const NodePtr &node : liveNodes()) {
-        if (!node->children.isEmpty())
-            node->expanded = expanded;
-    }
+    for (const NodePtr &node : nodesWith([](const Node &any) { return !any.children.isEmpty(); }))
+        node->expanded = expanded;
 }
 
 template <typename T>
@@ -645,8 +634,10 @@ void BasicTreeModel<T>::registerFilterNodeId(const NodeIdFilter &filter)
     if (!passes)
         return;
     const QPointer<QAbstractItemModel> self(this);
-    const typename vellum::NodeMap<T>::Map before = nodeMap.map();
-    for (const auto &entry : before) {
+    std::vector<std::weak_ptr<Node>> asked;
+    for (const auto &entry : nodeMap)
+        asked.push_back(entry);
+    for (const std::weak_ptr<Node> &entry : asked) {
         const NodePtr node = entry.lock();
         if (!node || node == rootNode)
             continue;
@@ -656,7 +647,7 @@ void BasicTreeModel<T>::registerFilterNodeId(const NodeIdFilter &filter)
         if (stays)
             continue;
         if (nodeMap.find(node->nodeId) == node)
-            nodeMap.remove(node->nodeId);
+            nodeMap.remove(node->nodeId, node.get());
         if (const NodePtr parent = node->parentNode.lock())
             parent->children.removeOne(node);
         node->parentNode.reset();

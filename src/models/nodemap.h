@@ -1,5 +1,6 @@
 #pragma once
 
+#include "models/addresstable.h"
 #include "models/treenode.h"
 
 #include <QHash>
@@ -38,21 +39,18 @@ public:
     typename Map::const_iterator constEnd() const { return m_byId.constEnd(); }
     bool contains(const T &id) const { return m_byId.contains(id); }
     int size() const { return m_byId.size(); }
-    /// A copy that stays as it is while the tree changes.
-    Map map() const { return m_byId; }
 
     std::shared_ptr<Node> find(const T &id) const { return m_byId.value(id).lock(); }
 
-    /// The live node at \a address; null for any other address, which is not looked into.
-    Node *known(const void *address) const
+    /// \a address if a live node of ours is there, else null. It is not looked into.
+    Node *known(void *address) const
     {
-        const auto found = m_byAddress.constFind(address);
-        return found == m_byAddress.constEnd() || found->expired() ? nullptr : found->address;
+        return m_byAddress.isAlive(address) ? static_cast<Node *>(address) : nullptr;
     }
 
     std::shared_ptr<Node> lock(const void *address) const
     {
-        return m_byAddress.value(address).lock();
+        return std::static_pointer_cast<Node>(m_byAddress.lock(address));
     }
 
     /// The live node at \a address that lost its entry to a newer one of its identity.
@@ -68,22 +66,25 @@ public:
     void insert(const T &id, const std::shared_ptr<Node> &node)
     {
         const std::shared_ptr<Node> older = find(id);
-        remove(id);
-        if (older && older != node) {
+        if (older && older != node)
             m_doubled.insert(id, true);
-            m_displaced.insert(older.get(), Entry(older));
-        }
+        remove(id, node.get());
         if (m_byId.size() + m_displaced.size() >= m_sweepAt)
             sweep();
         m_byId.insert(id, Entry(node));
-        m_byAddress.insert(node.get(), Entry(node));
+        m_byAddress.insert(node);
     }
 
-    void remove(const T &id)
+    /// Removes the entry of \a id, because \a gone leaves the tree. That another node, a newer one
+    /// of the same identity, may stand there makes no difference: it can't be found from then on.
+    void remove(const T &id, const Node *gone)
     {
         const auto found = m_byId.find(id);
         if (found == m_byId.end())
             return;
+        const std::shared_ptr<Node> node = found->lock();
+        if (node && node.get() != gone)
+            m_displaced.insert(node.get(), *found);
         m_byAddress.remove(found->address);
         m_byId.erase(found);
     }
@@ -104,7 +105,7 @@ private:
 
     static constexpr int kFirstSweep = 256;
     Map m_byId;
-    QHash<const void *, Entry> m_byAddress;
+    AddressTable m_byAddress;
     QHash<const void *, Entry> m_displaced;
     QMap<T, bool> m_doubled;
     int m_sweepAt = kFirstSweep;

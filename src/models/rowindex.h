@@ -88,25 +88,31 @@ public:
         , m_chains(hasRowHash<T> ? rows.size() + more : 0)
     {
         for (const T &row : rows)
-            appended(row);
+            appended(hashOf(row));
     }
 
-    /// The first place of an equal row, -1 without one.
-    int find(const T &row) const
+    static uint hashOf(const T &row)
     {
         if constexpr (hasRowHash<T>)
-            return m_chains.find(qHash(row), [&](int at) { return m_rows.at(at) == row; });
+            return qHash(row);
+        else
+            return 0;
+    }
+
+    /// The first place of a row equal to \a row, whose hash is given, too; -1 without one.
+    int find(const T &row, uint hash) const
+    {
+        if constexpr (hasRowHash<T>)
+            return m_chains.find(hash, [&](int at) { return m_rows.at(at) == row; });
         else
             return m_rows.indexOf(row);
     }
 
     /// To be called for each row appended to the list.
-    void appended(const T &row)
+    void appended(uint hash)
     {
         if constexpr (hasRowHash<T>)
-            m_chains.append(qHash(row));
-        else
-            Q_UNUSED(row)
+            m_chains.append(hash);
     }
 
 private:
