@@ -190,7 +190,8 @@ void BasicListModel<T>::addListModelData(const T &row, bool unique)
 template <typename T>
 void BasicListModel<T>::addListModelData(const QList<T> &rows, bool unique)
 {
-    const QList<T> added = rows;
+    // The rows may be one of our lists.
+    const QList<T> added = rows; // NOLINT(performance-unnecessary-copy-initialization)
     if (unique) {
         std::vector<uint> hashes;
         std::transform(added.begin(), added.end(), std::back_inserter(hashes),
@@ -247,7 +248,8 @@ template <typename T>
 void BasicListModel<T>::insertListModelDataWithUpdate(const QList<T> &rows)
 {
     const QPointer<QAbstractItemModel> self(this);
-    const QList<T> incoming = rows;
+    // The rows may be one of our lists, or change during a reset.
+    const QList<T> incoming = rows; // NOLINT(performance-unnecessary-copy-initialization)
     int next = 0;
     while (self && next < incoming.size())
         next = insertNewRows(incoming, next);

@@ -67,11 +67,10 @@ private:
 template <typename T>
 void BasicTableModel<T>::deleteTableModelData(const T &record, bool allEqual)
 {
-    const T removed = record; // it may be one of ours
     if (allEqual)
-        tableData.removeAll(removed);
+        tableData.removeAll(record);
     else
-        tableData.removeOne(removed);
+        tableData.removeOne(record);
     updateModel();
 }
 

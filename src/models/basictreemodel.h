@@ -10,6 +10,7 @@
 #include <QList>
 #include <QMap>
 #include <QPointer>
+#include <QSet>
 #include <QVariant>
 
 #include <algorithm>
@@ -138,6 +139,7 @@ private:
     std::vector<NodePtr> nodesWith(const Accepts &accepts) const;
     bool isReachable(const Node *top, Node *node) const;
     QModelIndex searchBelow(const Node *top, const T &id) const;
+    void takeOut(const std::vector<NodePtr> &nodes);
     void dropStaleExtras();
 
     mutable unsigned m_walk = 0;
@@ -444,10 +446,11 @@ typename BasicTreeModel<T>::NodePtr BasicTreeModel<T>::createTreeNode(const T &i
     const QPointer<QAbstractItemModel> self(this);
     const NodeIdFilter filter = filterNodeIdCb;
     const T nodeId = id;
-    const NodePtr above = parent;
+    // What the filter calls may change what the reference refers to.
+    const NodePtr above = parent; // NOLINT(performance-unnecessary-copy-initialization)
     if (!callFiterNodeIdCb(filter, nodeId) || !self)
         return {};
-    const NodePtr node = std::make_shared<Node>(nodeId);
+    NodePtr node = std::make_shared<Node>(nodeId);
     node->parentNode = above;
     if (above) {
         node->m_rowHint = above->children.size();
@@ -461,7 +464,7 @@ template <typename T>
 typename BasicTreeModel<T>::NodePtr BasicTreeModel<T>::findOrCreateTreeNode(const T &id,
                                                                             const NodePtr &parent)
 {
-    const NodePtr node = nodeMap.find(id);
+    NodePtr node = nodeMap.find(id);
     return node ? node : createTreeNode(id, parent);
 }
 
@@ -494,7 +497,7 @@ typename BasicTreeModel<T>::NodePtr BasicTreeModel<T>::nodeFromIndex(const QMode
 template <typename T>
 typename BasicTreeModel<T>::NodePtr BasicTreeModel<T>::findNodeByPtr(Node *address) const
 {
-    if (const NodePtr node = nodeMap.lock(address))
+    if (NodePtr node = nodeMap.lock(address))
         return node;
     const NodePtr older = fastFindByPtr ? nodeMap.displaced(address) : NodePtr();
     return older ? nodeMap.find(older->nodeId) : NodePtr();
@@ -634,25 +637,43 @@ void BasicTreeModel<T>::registerFilterNodeId(const NodeIdFilter &filter)
     if (!passes)
         return;
     const QPointer<QAbstractItemModel> self(this);
-    std::vector<std::weak_ptr<Node>> asked;
-    for (const auto &entry : nodeMap)
-        asked.push_back(entry);
-    for (const std::weak_ptr<Node> &entry : asked) {
-        const NodePtr node = entry.lock();
-        if (!node || node == rootNode)
-            continue;
-        const bool stays = callFiterNodeIdCb(passes, node->nodeId);
+    std::vector<NodePtr> rejected;
+    for (const NodePtr &node : nodesWith([](const Node &) { return true; })) {
+        const bool passed = callFiterNodeIdCb(passes, node->nodeId);
         if (!self)
             return;
-        if (stays)
-            continue;
+        if (!passed)
+            rejected.push_back(node);
+    }
+    takeOut(rejected);
+    dropStaleExtras();
+}
+
+/// Takes \a nodes out of the map and from their parents, with all below them.
+template <typename T>
+void BasicTreeModel<T>::takeOut(const std::vector<NodePtr> &nodes)
+{
+    QSet<const Node *> gone;
+    QSet<const Node *> seen;
+    std::vector<NodePtr> parents;
+    for (const NodePtr &node : nodes) {
+        gone.insert(node.get());
         if (nodeMap.find(node->nodeId) == node)
             nodeMap.remove(node->nodeId, node.get());
-        if (const NodePtr parent = node->parentNode.lock())
-            parent->children.removeOne(node);
+        NodePtr parent = node->parentNode.lock();
         node->parentNode.reset();
+        if (!parent || seen.contains(parent.get()))
+            continue;
+        seen.insert(parent.get());
+        parents.push_back(std::move(parent));
     }
-    dropStaleExtras();
+    for (const NodePtr &parent : parents) {
+        QList<NodePtr> &children = parent->children;
+        const auto end =
+            std::remove_if(children.begin(), children.end(),
+                           [&gone](const NodePtr &child) { return gone.contains(child.get()); });
+        children.erase(end, children.end());
+    }
 }
 
 template <typename T>

@@ -38,6 +38,8 @@ QVariant SelectItemListModel::data(const QModelIndex &index, int role) const
 
 Qt::ItemFlags SelectItemListModel::flags(const QModelIndex &index) const
 {
+    // BasicListModel's flags would enable the invalid index, too.
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
     return QAbstractItemModel::flags(index) | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable
         | Qt::ItemIsDragEnabled | Qt::ItemIsDropEnabled;
 }
