@@ -133,6 +133,7 @@ protected:
 private:
     NodePtr findNodeByPtr(Node *address) const;
     Node *nodeAt(const QModelIndex &index) const;
+    Node *parentOf(Node *node) const;
     int getNeedShowCount(const NodePtr &node) const;
     void deleteTreeNodeWithChild(const T &id);
     template <typename Accepts>
@@ -229,15 +230,13 @@ QModelIndex BasicTreeModel<T>::index(int row, int column, const QModelIndex &par
 template <typename T>
 QModelIndex BasicTreeModel<T>::parent(const QModelIndex &child) const
 {
-    const Node *const node = child.isValid() ? nodeAt(child) : nullptr;
-    if (!node || node == rootNode.get())
+    Node *const node = child.isValid() ? nodeAt(child) : nullptr;
+    Node *const above = node && node != rootNode.get() ? parentOf(node) : nullptr;
+    if (!above || above == rootNode.get())
         return {};
-    const NodePtr above = node->parentNode.lock();
-    if (!above || above == rootNode)
-        return {};
-    const NodePtr top = above->parentNode.lock();
-    const int row = top ? top->rowOf(above.get()) : -1;
-    return row < 0 ? QModelIndex() : createIndex(row, 0, above.get());
+    Node *const top = parentOf(above);
+    const int row = top ? top->rowOf(above) : -1;
+    return row < 0 ? QModelIndex() : createIndex(row, 0, above);
 }
 
 template <typename T>
@@ -351,12 +350,11 @@ bool BasicTreeModel<T>::isReachable(const Node *top, Node *node) const
             break;
         }
         path.push_back(at);
-        const NodePtr parent = at->parentNode.lock();
-        reachable = parent && parent->rowOf(at) >= 0
-            && (parent.get() == top || nodeMap.known(parent.get()));
+        Node *const parent = parentOf(at);
+        reachable = parent && parent->rowOf(at) >= 0 && (parent == top || nodeMap.known(parent));
         if (!reachable)
             break;
-        at = parent.get();
+        at = parent;
     }
     if (remember) {
         for (Node *at : path) {
@@ -452,6 +450,7 @@ typename BasicTreeModel<T>::NodePtr BasicTreeModel<T>::createTreeNode(const T &i
         return {};
     NodePtr node = std::make_shared<Node>(nodeId);
     node->parentNode = above;
+    node->m_parentHint = above.get();
     if (above) {
         node->m_rowHint = above->children.size();
         above->children.append(node);
@@ -513,6 +512,19 @@ typename BasicTreeModel<T>::Node *BasicTreeModel<T>::nodeAt(const QModelIndex &i
         return nullptr;
     Node *const node = nodeMap.known(index.internalPointer());
     return node || !fastFindByPtr ? node : nodeFromIndex(index).get();
+}
+
+/// The parent of \a node, null without one. Views ask every row for it, and a share in the parent
+/// would be written to memory each time; so a hint is proved instead, by the owner it has.
+template <typename T>
+typename BasicTreeModel<T>::Node *BasicTreeModel<T>::parentOf(Node *node) const
+{
+    Node *const hint = nodeMap.known(node->m_parentHint);
+    if (hint && !hint->m_self.owner_before(node->parentNode)
+        && !node->parentNode.owner_before(hint->m_self))
+        return hint;
+    node->m_parentHint = node->parentNode.lock().get();
+    return node->m_parentHint;
 }
 
 template <typename T>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "models/addresstable.h"
+#include "models/addressset.h"
 #include "models/treenode.h"
 
 #include <QHash>
@@ -45,12 +45,12 @@ public:
     /// \a address if a live node of ours is there, else null. It is not looked into.
     Node *known(void *address) const
     {
-        return m_byAddress.isAlive(address) ? static_cast<Node *>(address) : nullptr;
+        return m_byAddress->contains(address) ? static_cast<Node *>(address) : nullptr;
     }
-
-    std::shared_ptr<Node> lock(const void *address) const
+    std::shared_ptr<Node> lock(void *address) const
     {
-        return std::static_pointer_cast<Node>(m_byAddress.lock(address));
+        const Node *const node = known(address);
+        return node ? node->m_self.lock() : std::shared_ptr<Node>();
     }
 
     /// The live node at \a address that lost its entry to a newer one of its identity.
@@ -72,7 +72,9 @@ public:
         if (m_byId.size() + m_displaced.size() >= m_sweepAt)
             sweep();
         m_byId.insert(id, Entry(node));
-        m_byAddress.insert(node);
+        node->m_self = node;
+        node->m_addresses = m_byAddress;
+        m_byAddress->insert(node.get());
     }
 
     /// Removes the entry of \a id, because \a gone leaves the tree. That another node, a newer one
@@ -82,10 +84,11 @@ public:
         const auto found = m_byId.find(id);
         if (found == m_byId.end())
             return;
-        const std::shared_ptr<Node> node = found->lock();
-        if (node && node.get() != gone)
-            m_displaced.insert(node.get(), *found);
-        m_byAddress.remove(found->address);
+        if (!found->expired()) {
+            m_byAddress->remove(found->address);
+            if (found->address != gone)
+                m_displaced.insert(found->address, *found);
+        }
         m_byId.erase(found);
     }
 
@@ -93,11 +96,8 @@ private:
     /// Forgets the dead, whose memory a weak pointer keeps; seldom enough to cost nothing.
     void sweep()
     {
-        for (auto at = m_byId.begin(); at != m_byId.end();) {
-            if (at->expired())
-                m_byAddress.remove(at->address);
+        for (auto at = m_byId.begin(); at != m_byId.end();)
             at = at->expired() ? m_byId.erase(at) : std::next(at);
-        }
         for (auto at = m_displaced.begin(); at != m_displaced.end();)
             at = at->expired() ? m_displaced.erase(at) : std::next(at);
         m_sweepAt = qMax(kFirstSweep, 2 * (m_byId.size() + m_displaced.size()));
@@ -105,7 +105,8 @@ private:
 
     static constexpr int kFirstSweep = 256;
     Map m_byId;
-    AddressTable m_byAddress;
+    std::shared_ptr<AddressSet> m_byAddress =
+        std::make_shared<AddressSet>(); // nodes may outlive us
     QHash<const void *, Entry> m_displaced;
     QMap<T, bool> m_doubled;
     int m_sweepAt = kFirstSweep;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "models/addressset.h"
 #include "models/safesort.h"
 
 #include <QList>
@@ -11,6 +12,10 @@
 
 template <typename T>
 class BasicTreeModel;
+namespace vellum {
+template <typename T>
+class NodeMap;
+}
 
 /// One node of a tree, always held by std::shared_ptr; BasicTreeModel::createTreeNode() makes them.
 /// The identity is the first member, so that the address of a node is that of its identity.
@@ -43,12 +48,16 @@ struct TreeNode
 
 private:
     friend class BasicTreeModel<T>;
+    friend class vellum::NodeMap<T>;
     Q_DISABLE_COPY(TreeNode)
 
     void sortOwnChildren(const Order &order);
     int rowOf(const TreeNode *child);
 
-    int m_rowHint = 0;      // where the parent had this node last
+    std::weak_ptr<TreeNode> m_self;
+    std::shared_ptr<vellum::AddressSet> m_addresses; // those of the model that made this node
+    TreeNode *m_parentHint = nullptr;                // what parentNode was last
+    int m_rowHint = 0;                               // where the parent had this node last
     unsigned m_checked = 0; // number of the walk that found out m_reachable
     bool m_reachable = false;
 };
@@ -56,6 +65,8 @@ private:
 template <typename T>
 TreeNode<T>::~TreeNode()
 {
+    if (m_addresses)
+        m_addresses->remove(this);
     if (children.isEmpty())
         return;
     // A chain of nodes would otherwise be destroyed by as many nested calls. Children that somebody

@@ -373,7 +373,8 @@ private Q_SLOTS:
         const auto selected = [&model](const QStringList &ids, Qt::CheckState state) {
             model->setSelectIndexs(ids, state);
             QString rows;
-            for (const QModelIndex &index : model->getSelectedIndexs())
+            const QList<QModelIndex> indexes = model->getSelectedIndexs();
+            for (const QModelIndex &index : indexes)
                 rows += index.data().toString();
             return rows;
         };

@@ -2,40 +2,26 @@
 
 #include "vellum_export.h"
 
+#include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <vector>
 
 namespace vellum {
 
-/// Objects by their address, held weakly. Tells a live object's address from any other without
-/// looking into it, which a view asks several times for each row that it lays out.
-class VELLUM_EXPORT AddressTable
+/// Addresses of live objects, which take themselves out when they die. Tells such an address from
+/// any other without looking into it, which a view asks several times for each row that it lays
+/// out.
+class VELLUM_EXPORT AddressSet
 {
 public:
-    AddressTable();
+    AddressSet();
 
-    /// Enters \a object, which is not null.
-    void insert(const std::shared_ptr<void> &object);
+    /// Takes any address but null.
+    void insert(const void *address);
     void remove(const void *address);
-
-    bool isAlive(const void *address) const
-    {
-        const Slot &slot = m_slots[find(address)];
-        return slot.address && !slot.object.expired();
-    }
-    std::shared_ptr<void> lock(const void *address) const
-    {
-        return m_slots[find(address)].object.lock();
-    }
+    bool contains(const void *address) const { return m_slots[find(address)] && address; }
 
 private:
-    struct Slot
-    {
-        const void *address = nullptr;
-        std::weak_ptr<void> object;
-    };
-
     /// Objects of one page of memory stand side by side, so that a walk through them in the order
     /// in which they were made stays in the cache.
     size_t home(const void *address) const
@@ -49,7 +35,7 @@ private:
     size_t find(const void *address) const
     {
         size_t at = home(address);
-        while (m_slots[at].address && m_slots[at].address != address)
+        while (m_slots[at] && m_slots[at] != address)
             at = (at + 1) & m_mask;
         return at;
     }
@@ -58,7 +44,7 @@ private:
 
     size_t m_mask;
     size_t m_count = 0;
-    std::vector<Slot> m_slots; // a power of two, at most half of them taken
+    std::vector<const void *> m_slots; // a power of two, at most half of them taken
 };
 
 } // namespace vellum
