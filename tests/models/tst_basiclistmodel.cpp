@@ -206,7 +206,7 @@ void compareWithOracle()
                                           QAbstractItemModelTester::FailureReportingMode::QtTest);
     const QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
     Oracle<Row> oracle;
-    for (int step = 0; step < 3000; ++step) {
+    for (int step = 0; step < 1200; ++step) {
         oneStep(random, model, oracle);
         QCOMPARE(model.state(), oracle.state());
         QCOMPARE(resets.count(), oracle.resets);
