@@ -1,7 +1,13 @@
 #include "common/richstring.h"
 
+#include "common/richpiece.h"
+
 #include <QColor>
 #include <QTextDocument>
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace {
 
@@ -45,7 +51,45 @@ QString escaped(const QString &text)
     return html;
 }
 
+QString unescaped(const QString &html)
+{
+    static const std::pair<QLatin1String, QChar> marks[] = {
+        {QLatin1String("&nbsp;"), QLatin1Char(' ')}, {QLatin1String("<br>"), QLatin1Char(' ')},
+        {QLatin1String("&lt;"), QLatin1Char('<')},   {QLatin1String("&gt;"), QLatin1Char('>')},
+        {QLatin1String("&amp;"), QLatin1Char('&')},  {QLatin1String("&quot;"), QLatin1Char('"')},
+        {QLatin1String("&#39;"), QLatin1Char('\'')},
+    };
+    QString text;
+    text.reserve(html.size());
+    for (int i = 0; i < html.size();) {
+        const QStringRef rest = html.midRef(i);
+        const auto *mark = std::find_if(std::begin(marks), std::end(marks), [&rest](const auto &m) {
+            return rest.startsWith(m.first);
+        });
+        const bool isMark = mark != std::end(marks);
+        text += isMark ? mark->second : html.at(i);
+        i += isMark ? mark->first.size() : 1;
+    }
+    return text;
+}
+
 } // namespace
+
+vellum::RichPiece vellum::richPiece(const RichString &rich)
+{
+    // The span is always the one that the constructors below write.
+    const QString html = rich.toHtmlText();
+    const int body = html.indexOf(QLatin1Char('>')) + 1;
+    const int end = html.lastIndexOf(QLatin1String("</span>"));
+    RichPiece piece;
+    if (body <= 0 || end < body)
+        return piece;
+    piece.text = unescaped(html.mid(body, end - body));
+    const int color = html.lastIndexOf(QLatin1String("color:#"), body - 1);
+    if (color >= 0)
+        piece.color = QColor(html.mid(color + 6, 7));
+    return piece;
+}
 
 RichString::RichString(const QString &text)
     : m_html(QStringLiteral("<span style = \"font-size:14px;\">%1</span>").arg(escaped(text)))
