@@ -11,7 +11,7 @@ namespace vellum {
 
 namespace {
 
-/// More cells than a screen shows: so many are kept where no view says when a round begins.
+/// More cells than a screen shows: so many are kept where no paint event begins a round.
 constexpr int kManyCells = 16384;
 
 /// Whether a paint event for \a region reaches all that can be seen of \a viewport: children that
@@ -32,7 +32,7 @@ bool coversAll(const QWidget *viewport, const QRegion &region)
 
 } // namespace
 
-PaintWatch::PaintWatch(const std::function<void()> &forget)
+PaintWatch::PaintWatch(const std::function<bool()> &forget)
     : m_forget(forget)
 {
 }
@@ -63,69 +63,67 @@ PaintWatch::Watched *PaintWatch::watch(const QWidget *widget)
             connect(bar, &QScrollBar::valueChanged, viewport, QOverload<>::of(&QWidget::update),
                     Qt::UniqueConnection);
     }
-    m_views.append({view, viewport, true});
+    m_views.append({view, viewport});
     return &m_views.last();
 }
 
-void PaintWatch::cellPainted(const QPainter *painter, const QWidget *widget)
+void PaintWatch::cellPainted(const QPainter *painter, const QWidget *widget,
+                             const QModelIndex &index)
 {
+    m_cells.insert(index);
     Watched *entry = find(widget);
     if (!entry)
         entry = watch(widget);
-    if (!entry || painter->device() != entry->viewport.data()) {
-        countForeign();
-        return;
-    }
-    entry->painted = true;
-    ++m_sharedCells;
-}
-
-/// Cells in pictures come without a paint event, so only their number can bound what is kept.
-void PaintWatch::countForeign()
-{
-    if (++m_foreignCells <= kManyCells)
-        return;
-    m_foreignCells = 0;
-    m_forget();
+    if (entry && painter->device() == entry->viewport.data())
+        ++entry->cells;
+    else if (m_cells.size() > kManyCells) // pictures come without a paint event
+        forget();
 }
 
 bool PaintWatch::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Paint) {
-        auto *viewport = static_cast<QWidget *>(watched);
-        if (coversAll(viewport, static_cast<QPaintEvent *>(event)->region()))
-            fullPaintStarts(viewport);
-    }
-    return false;
-}
-
-void PaintWatch::fullPaintStarts(QWidget *viewport)
-{
+    if (event->type() != QEvent::Paint)
+        return false;
+    auto *viewport = static_cast<QWidget *>(watched);
     const auto entry =
         std::find_if(m_views.begin(), m_views.end(),
                      [viewport](const Watched &other) { return other.viewport == viewport; });
-    if (entry == m_views.end() || !entry->painted) {
+    if (entry == m_views.end() || (entry->paintsAll && entry->cells == 0)) {
         // The view has got on without this delegate for a whole round.
         viewport->removeEventFilter(this);
         if (entry != m_views.end())
             m_views.erase(entry);
-        return;
+        return false;
     }
-    entry->painted = false;
-    m_foreignCells = 0;
-    const int living =
-        int(std::count_if(m_views.cbegin(), m_views.cend(),
-                          [](const Watched &other) { return !other.view.isNull(); }));
-    // Views that share a delegate would lose their cells with each other's rounds: they share the
-    // clearing too, now and then, and paint all anew after it.
-    if (living > 1 && m_sharedCells <= kManyCells)
+    paintStarts(entry, coversAll(viewport, static_cast<QPaintEvent *>(event)->region()));
+    return false;
+}
+
+void PaintWatch::paintStarts(Watched *entry, bool paintsAll)
+{
+    if (entry->paintsAll)
+        entry->round = entry->cells;
+    entry->paintsAll = paintsAll;
+    entry->cells = 0;
+    // As long as the same cells are painted there is nothing to drop, and a delegate can read while
+    // it paints what it noted in the round before.
+    int inView = 0;
+    for (const Watched &other : qAsConst(m_views))
+        inView += other.view ? other.round : 0;
+    if (!paintsAll || m_cells.size() <= 2 * inView || !forget())
         return;
-    m_sharedCells = 0;
-    m_forget();
     for (const Watched &other : qAsConst(m_views)) {
-        if (other.viewport && other.viewport != viewport)
-            other.viewport->update();
+        if (other.viewport && other.viewport != entry->viewport)
+            other.viewport->update(); // what it shows was forgotten, too
     }
+}
+
+bool PaintWatch::forget()
+{
+    if (!m_forget())
+        return false;
+    m_cells.clear();
+    return true;
 }
 
 } // namespace vellum

@@ -99,8 +99,12 @@ struct TipStyleDelegate::Private
 {
     explicit Private(TipStyleDelegate *q)
         : paintWatch([this, q] {
+            // Whether the held button is under the cursor is read while painting.
+            if (pressedIndex.isValid())
+                return false;
             tipInfos.clear();
             q->clearPaintCusRectInfo();
+            return true;
         })
     {
         tipLabel.setTableTip(true);
@@ -178,7 +182,7 @@ void TipStyleDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opti
 {
     if (!painter)
         return;
-    d->paintWatch.cellPainted(painter, option.widget);
+    d->paintWatch.cellPainted(painter, option.widget, index);
     d->tipInfos.remove(index);
     QStyledItemDelegate::paint(painter, option, index);
     painter->setLayoutDirection(Qt::LayoutDirectionAuto);

@@ -35,10 +35,10 @@ Q_DECLARE_TYPEINFO(TipDelegateInfo, Q_MOVABLE_TYPE);
 ///
 /// A subclass calls paint() of its base first, measures its parts with the protected helpers, and
 /// notes tips and hit rectangles while it paints; editorEvent() only reads what the last paint
-/// noted, so a cell that was not painted has neither. When a view starts to paint all of its
-/// viewport, tips and rectangles of the last round are forgotten (clearPaintCusRectInfo()), and a
-/// scroll makes a view paint all: what is kept is a viewport's worth, and it stands where the
-/// cells stand.
+/// noted, so a cell that was not painted has neither. Both count from the viewport's corner, so a
+/// scroll makes the view paint all. Now and then, when a view starts to paint all of its viewport,
+/// tips and rectangles of earlier rounds are forgotten (clearPaintCusRectInfo()): some viewports'
+/// worth is kept.
 ///
 /// The twins are buttons named "btn_checkBoxChecked", "btn_checkBoxUnchecked", "btn_radioChecked"
 /// and "btn_radioUnChecked", which only the application's style sheet reaches. One delegate may
@@ -69,7 +69,7 @@ public:
                    const QModelIndex &index) override;
 
     /// Forgets the hit rectangles of the cells. Nothing here; a subclass that keeps some overrides
-    /// it. Called by views whose cells may have moved, and when a view starts to paint all.
+    /// it. Called by views whose cells may have moved, and before a view paints all of its cells.
     virtual void clearPaintCusRectInfo();
     /// Changes the look of the cell under a pressed mouse button. Nothing here.
     virtual void dealIndexPressedStyleState(QStyleOptionViewItem *option,
