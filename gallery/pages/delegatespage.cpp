@@ -139,10 +139,10 @@ public:
 };
 
 /// A cell of pieces of text, each in its own colour.
-class PiecesDelegate : public LongTextTipDelegate
+class PiecesDelegate : public TipStyleDelegate
 {
 public:
-    using LongTextTipDelegate::LongTextTipDelegate;
+    using TipStyleDelegate::TipStyleDelegate;
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override
@@ -218,7 +218,7 @@ QStandardItem *pieces(const QString &time, const QString &text, const QString &p
     auto *item = new QStandardItem;
     const QList<RichString> list = {RichString(QColor(QStringLiteral("#A0A7B4")), time),
                                     RichString(text),
-                                    RichString(QColor(QStringLiteral("#429EF6")), plate)};
+                                    RichString(QColor(QStringLiteral("#A9D1F9")), plate)};
     item->setData(QVariant::fromValue(list), Qt::DisplayRole);
     return item;
 }
@@ -236,20 +236,22 @@ public:
         auto *first = new QHBoxLayout;
         first->setSpacing(16);
         first->addWidget(PageKit::card(QStringLiteral("SelectItemListModel"), cameraList()));
-        first->addWidget(
-            PageKit::card(QStringLiteral(
-                              "BasicTreeModel with CheckAndExpandDelegate, an ExpandStyleDelegate"),
-                          deviceTree()),
-            1);
-        column->addLayout(first);
+        first->addWidget(PageKit::card(
+            QStringLiteral("CheckAndExpandDelegate over a BasicTreeModel"), deviceTree()));
         m_line = PageKit::signalLine();
         auto *live = new QVBoxLayout;
+        live->setSpacing(8);
         live->addWidget(buttons());
         live->addWidget(m_line);
-        column->addWidget(PageKit::card(QStringLiteral("What they reported"), live));
+        live->addWidget(PageKit::caption(QStringLiteral(
+            "A press on the arrow folds the row (ExpandStyleDelegate), one anywhere else toggles "
+            "it. A name that doesn't fit has a tip, and so has the arrow.")));
+        live->addStretch(1);
+        first->addWidget(PageKit::card(QStringLiteral("What they reported"), live), 1);
+        column->addLayout(first);
         column->addWidget(PageKit::card(
-            QStringLiteral("LongTextTipDelegate, subclasses of TipStyleDelegate, and the line edit "
-                           "of BasicDelegateEditor"),
+            QStringLiteral("Subclasses of TipStyleDelegate: colours by role, a record button, a "
+                           "LongTextTipDelegate, pieces of text; BasicDelegateEditor edits"),
             eventTable()));
         count();
     }
@@ -259,13 +261,12 @@ private:
     {
         if (counter)
             ++(m_counters.*counter);
-        m_line->setText(
-            QStringLiteral("Model resets: %1     Check callbacks: %2     Rows folded: %3     "
-                           "Record buttons: %4")
-                .arg(m_counters.resets)
-                .arg(m_counters.checks)
-                .arg(m_counters.folds)
-                .arg(m_counters.records));
+        m_line->setText(QStringLiteral("Model resets: %1\nCheck callbacks: %2\nRows folded: %3\n"
+                                       "Record buttons: %4")
+                            .arg(m_counters.resets)
+                            .arg(m_counters.checks)
+                            .arg(m_counters.folds)
+                            .arg(m_counters.records));
     }
 
     QWidget *cameraList()
@@ -277,7 +278,7 @@ private:
             SelectItemBaseInfo row;
             row.itemId = QString::number(rows.size());
             row.showText = QString::fromLatin1(name);
-            row.checkState = rows.size() % 3 == 0 ? Qt::Checked : Qt::Unchecked;
+            row.checkState = 2 - rows.size() % 3;
             rows.append(row);
         }
         m_cameras->setListModelData(rows);
@@ -287,7 +288,7 @@ private:
         view->setItemDelegate(delegate);
         view->setModel(m_cameras);
         view->setEditTriggers(QAbstractItemView::NoEditTriggers);
-        view->setFixedSize(240, 9 * kRow + 2);
+        view->setFixedSize(240, 8 * kRow + 2);
         m_cameras->registerDealWithCheckCb([this] { count(&Counters::checks); });
         connect(delegate, &CheckAndExpandDelegate::signalDelegateChekcChanged, view->viewport(),
                 QOverload<>::of(&QWidget::update));
@@ -305,11 +306,12 @@ private:
         delegate->setEnableMultiDelegate(true);
         view->setItemDelegate(delegate);
         view->setModel(model);
+        view->setObjectName(QStringLiteral("gallery_deviceTree"));
         view->setHeaderHidden(true);
         view->setRootIsDecorated(false);
         view->setItemsExpandable(false);
         view->setUniformRowHeights(true);
-        view->setFixedHeight(9 * kRow + 2);
+        view->setFixedSize(360, 8 * kRow + 2);
         QList<QModelIndex> expanded;
         model->getExpandIndex(expanded);
         for (const QModelIndex &index : qAsConst(expanded))
@@ -336,10 +338,10 @@ private:
             row.showText = QStringLiteral("Camera %1").arg(row.itemId);
             m_cameras->addListModelData(row, true);
         });
-        auto *all = new QPushButton(QStringLiteral("Uncheck all but the lobby"));
+        auto *all = new QPushButton(QStringLiteral("Only the lobby"));
         connect(all, &QPushButton::clicked, this,
                 [this] { m_cameras->setSelectIndexs({QStringLiteral("4")}, Qt::Checked); });
-        return PageKit::row({add, all}, 12);
+        return PageKit::row({add, all}, 8);
     }
 
     QWidget *eventTable()
@@ -347,18 +349,22 @@ private:
         auto *model = new QStandardItemModel(this);
         model->setHorizontalHeaderLabels({QStringLiteral("Severity"), QStringLiteral("Camera"),
                                           QStringLiteral("Recorded on"), QStringLiteral("Event")});
+        model->horizontalHeaderItem(2)->setTextAlignment(Qt::AlignCenter);
         const QStringList cameras = {
-            QStringLiteral("North gate"), QStringLiteral("Car park, upper deck, row 14"),
-            QStringLiteral("Loading bay"), QStringLiteral("Server room, rear aisle, rack 12")};
+            QStringLiteral("North gate"),  QStringLiteral("Car park, upper deck, row 14"),
+            QStringLiteral("Loading bay"), QStringLiteral("Server room, rear aisle, rack 12"),
+            QStringLiteral("Lobby"),       QStringLiteral("Fence, west")};
         QStringList recorders;
         for (int number = 1; number <= 12; ++number)
             recorders.append(QStringLiteral("Recorder %1").arg(number));
         for (int row = 0; row < cameras.size(); ++row) {
             auto *camera = new QStandardItem(cameras.at(row));
             camera->setData(row == 1, CusItemDataRole::RolePlaying);
+            auto *recorded =
+                new QStandardItem(recorders.mid(0, 12 - 5 * (row % 3)).join(QLatin1Char(';')));
+            recorded->setTextAlignment(Qt::AlignCenter);
             model->appendRow(
-                {severity(row % 3), camera,
-                 new QStandardItem(recorders.mid(0, 12 - 5 * (row % 3)).join(QLatin1Char(';'))),
+                {severity(row % 3), camera, recorded,
                  pieces(QStringLiteral("07:%1").arg(14 + 9 * row),
                         QStringLiteral("passed the line"), QStringLiteral("VL 12%1").arg(row))});
         }
@@ -367,14 +373,14 @@ private:
         view->setItemDelegateForColumn(0, new SeverityDelegate(view));
         auto *record = new RecordDelegate(view);
         view->setItemDelegateForColumn(1, record);
-        auto *recorded = new LongTextTipDelegate(view);
-        recorded->setLineBreakDisplay({2}, QStringLiteral(";"), true);
-        view->setItemDelegateForColumn(2, recorded);
+        auto *lines = new LongTextTipDelegate(view);
+        lines->setLineBreakDisplay({2}, QStringLiteral(";"), true);
+        view->setItemDelegateForColumn(2, lines);
         view->setItemDelegateForColumn(3, new PiecesDelegate(view));
         view->setColumnWidth(0, 110);
         view->setColumnWidth(1, 220);
         view->setColumnWidth(2, 220);
-        view->setFixedHeight(32 + 4 * kRow);
+        view->setFixedHeight(32 + 6 * kRow);
         view->selectRow(0);
         view->hoverRow(1);
         connect(record, &RecordDelegate::recordClicked, this,

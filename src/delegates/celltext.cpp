@@ -23,7 +23,7 @@ int cellTextMargin(const QWidget *widget)
 QString wideStart(const QString &text, const QFontMetrics &metrics, int width)
 {
     for (int length = kLongText; length < text.size() / 2; length *= 2) {
-        const QString start = text.left(length);
+        QString start = text.left(length);
         if (metrics.boundingRect(start).width() > width)
             return start;
     }

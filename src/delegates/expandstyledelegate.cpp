@@ -1,5 +1,6 @@
 #include "delegates/expandstyledelegate.h"
 
+#include "common/saferect.h"
 #include "delegates/styledelegatecomfun.h"
 #include "delegates/svgtwin.h"
 #include "models/cusitemdatarole.h"
@@ -50,7 +51,8 @@ TipDelegateInfo ExpandStyleDelegate::paintExpand(QPainter *painter,
     }
     QStyleOptionButton icon;
     icon.state = option.state;
-    calcItemPartRect(option.rect, DelegateIconPos_Left, d->iconSize, 0, icon.rect);
+    const qint64 y = option.rect.y() + (qint64(option.rect.height()) - d->iconSize.height()) / 2;
+    icon.rect = vellum::safeRect(option.rect.x(), y, d->iconSize.width(), d->iconSize.height());
     const bool expanded = index.data(CusItemDataRole::RoleExpanded).toBool();
     d->expandRects.insert(index, option.rect);
     StyleDelegateComFun::drawSvgBtn(painter, &icon,

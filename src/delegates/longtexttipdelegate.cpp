@@ -71,7 +71,7 @@ QString LongTextTipDelegate::Private::wrapped(const QString &text, const QFont &
     wrapWidth = width;
     if (const QString *known = wrappedTips.object(text))
         return *known;
-    const QString result = warpString(QFontMetrics(font), text, width, nullptr, nullptr);
+    QString result = warpString(QFontMetrics(font), text, width, nullptr, nullptr);
     wrappedTips.insert(text, new QString(result), text.size() + result.size());
     return result;
 }

@@ -107,13 +107,14 @@ void PaintWatch::paintStarts(Watched *entry, bool paintsAll)
     entry->cells = 0;
     // As long as the same cells are painted there is nothing to drop, and a delegate can read while
     // it paints what it noted in the round before.
+    const QPointer<QWidget> viewport = entry->viewport;
     int inView = 0;
     for (const Watched &other : qAsConst(m_views))
         inView += other.view ? other.round : 0;
     if (!paintsAll || m_cells.size() <= 2 * inView || !forget())
         return;
     for (const Watched &other : qAsConst(m_views)) {
-        if (other.viewport && other.viewport != entry->viewport)
+        if (other.viewport && other.viewport != viewport)
             other.viewport->update(); // what it shows was forgotten, too
     }
 }

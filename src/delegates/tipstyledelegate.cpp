@@ -203,14 +203,14 @@ void TipStyleDelegate::destroyEditor(QWidget *editor, const QModelIndex &index) 
 {
     if (editor)
         QStyledItemDelegate::destroyEditor(editor, index);
-    Q_EMIT signalEditorActive(false);
+    Q_EMIT const_cast<TipStyleDelegate *>(this)->signalEditorActive(false);
 }
 
 void TipStyleDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
 {
     if (d->delegateEditor)
         d->delegateEditor->setEditorData(editor, index);
-    Q_EMIT signalEditorActive(true);
+    Q_EMIT const_cast<TipStyleDelegate *>(this)->signalEditorActive(true);
 }
 
 void TipStyleDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,

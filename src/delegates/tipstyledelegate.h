@@ -128,7 +128,7 @@ public:
 
 Q_SIGNALS:
     /// An editor got its data (true) or was destroyed (false).
-    void signalEditorActive(bool active) const;
+    void signalEditorActive(bool active);
 
 protected:
     bool editorEvent(QEvent *event, QAbstractItemModel *model, const QStyleOptionViewItem &option,
