@@ -70,7 +70,7 @@ void CusBasicSpinBox::setProperty(const char *name, const QVariant &value)
     if (!name)
         return;
     // The arrows keep their names and stay hidden.
-    if (QWidget::staticMetaObject.indexOfProperty(name) < 0)
+    if (qstrcmp(name, "objectName") != 0 && qstrcmp(name, "visible") != 0)
         d->arrows.setProperty(name, value);
     QSpinBox::setProperty(name, value);
 }
@@ -153,17 +153,17 @@ QString CusBasicSpinBox::textFromValue(int value) const
     return d->keepText ? d->keptText : QSpinBox::textFromValue(value);
 }
 
-// What QSpinBox itself may show is read too: the minimum's special text, the locale's digits and
-// group separators.
 int CusBasicSpinBox::readNumber(const QString &text, bool *ok) const
 {
-    bool isNumber = true;
-    int number = minimum();
-    if (specialValueText().isEmpty() || text != specialValueText()) {
-        const QString stripped = vellum::stripAffixes(text, prefix(), suffix());
-        number = stripped.toInt(&isNumber);
-        if (!isNumber)
-            number = locale().toInt(stripped, &isNumber);
+    bool isNumber = false;
+    const QString stripped = vellum::stripAffixes(text, prefix(), suffix());
+    int number = stripped.toInt(&isNumber);
+    // What QSpinBox itself may show is a number, too, or Return on it would change the value.
+    if (!isNumber)
+        number = locale().toInt(stripped, &isNumber);
+    if (!isNumber && !specialValueText().isEmpty() && text == specialValueText()) {
+        number = minimum();
+        isNumber = true;
     }
     if (ok)
         *ok = isNumber;

@@ -12,15 +12,15 @@ class QStylePainter;
 /// bending it to the nearest limit: the value from before comes back, and a bubble says what is
 /// allowed.
 ///
-/// | input | effect |
-/// |---|---|
-/// | typing a number inside the range | the value follows each key |
-/// | typing a number outside | the text stays; the value is that of before the typing began |
-/// | Return, Enter | commits; tells valueChanged(), editingFinished() and the line edit's
-/// returnPressed(), once each, even without a change. An empty text counts as 0 | | losing the
-/// focus | commits; an empty text is refused | | wheel, with the focus | one step a turn, however
-/// large; less than 15 degrees, or sideways, steps down | | wheel, without the focus or read-only |
-/// left to the parent | | Tab | passes by: focus comes by a click only |
+/// - Typing a number inside the range: the value follows each key.
+/// - Typing one outside: the text stays; the value is that of before the typing began.
+/// - Return, Enter: commits; tells valueChanged(), editingFinished() and the line edit's
+///   returnPressed(), once each, even without a change. An empty text counts as 0.
+/// - Losing the focus: commits; an empty text is refused.
+/// - Wheel, with the focus: one step a turn, however large; a turn of less than 15 degrees or
+///   sideways steps down.
+/// - Wheel, without the focus or read-only: left to the parent.
+/// - Tab passes by: focus comes by a click only.
 ///
 /// The number is read in base 10; what is none counts as 0. There is no context menu. The arrows
 /// are hidden buttons, "btn_spinBoxUp" and "btn_spinBoxDown" for style sheets. GUI thread only.
@@ -40,8 +40,8 @@ public:
     void setIsValidStyle(bool valid);
     /// The text in the empty editor.
     void setPlaceHolderText(const QString &text);
-    /// Hides QObject::setProperty(): sets the property on the box, and unless it is one of
-    /// QWidget's own, on the arrows, so that a style sheet's state reaches their images.
+    /// Hides QObject::setProperty(): sets the property on the box and, but for "objectName" and
+    /// "visible", on the arrows, so that a style sheet's state reaches their images.
     void setProperty(const char *name, const QVariant &value);
 
     /// Installed on the application, a press outside the box passes its focus on.
@@ -56,8 +56,8 @@ protected:
     /// True while the value changes below a text that stays as it was typed. textFromValue() of a
     /// subclass then returns what this class's returns.
     bool keepsTypedText() const;
-    /// The editor's text without prefix and suffix.
-    QString typedText() const;
+    /// The number in \a text, which may have prefix and suffix; 0, and \a ok false, if it is none.
+    int readNumber(const QString &text, bool *ok = nullptr) const;
 
     QValidator::State validate(QString &input, int &pos) const override;
     QString textFromValue(int value) const override;
@@ -69,7 +69,7 @@ protected:
 private:
     void watchLineEdit();
     void onEditorTextChanged(const QString &text);
-    int readNumber(const QString &text, bool *ok = nullptr) const;
+    QString typedText() const;
     bool isInRange(int number) const;
     void commitByReturn(QKeyEvent *event);
     void addOrSubSingleStep(int steps);

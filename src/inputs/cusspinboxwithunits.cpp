@@ -24,7 +24,6 @@ CusSpinBoxWithUnits::CusSpinBoxWithUnits(QWidget *parent)
 {
     d->unitLabel = new QLabel(this);
     d->unitLabel->setObjectName(QStringLiteral("label_spinBoxUnits"));
-    d->unitLabel->setTextFormat(Qt::PlainText);
     d->unitLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     d->unitLabel->setProperty("h12", true);
 }
