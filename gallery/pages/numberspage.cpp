@@ -84,11 +84,7 @@ QLabel *rangeTipPicture(const QString &text)
     AngleTiPWidget tip(ArrowWidget::Arrow_Left);
     tip.setTipRightBottomPoint(QPoint(400, 100));
     tip.setShowText(text);
-    // It finds its place at the first paint.
-    tip.grab();
-    auto *picture = new QLabel;
-    picture->setPixmap(tip.grab());
-    return picture;
+    return PageKit::pictureOf(&tip);
 }
 
 QWidget *integers(const Reports &reports)

@@ -14,6 +14,7 @@ struct AddSubBtnPane::Private
     int maxValue = 100;
     int addStep = 1;
     std::function<QString(const int &)> numToText;
+    unsigned showings = 0;
 };
 
 AddSubBtnPane::AddSubBtnPane(QWidget *parent)
@@ -131,14 +132,15 @@ void AddSubBtnPane::takeValue(qint64 value)
 
 void AddSubBtnPane::showValue()
 {
+    const unsigned showing = ++d->showings;
     if (!d->numToText) {
         d->ui.pushButton_addSubVal->setText(QString::number(d->value));
         return;
     }
-    // A copy: the callback may register another one, or delete the pane.
+    // A copy: the callback may register another one, set another value, or delete the pane.
     const auto numToText = d->numToText;
     const QPointer<AddSubBtnPane> alive(this);
     const QString text = numToText(d->value);
-    if (alive)
+    if (alive && showing == d->showings)
         d->ui.pushButton_addSubVal->setText(text);
 }

@@ -1,6 +1,7 @@
 #include "inputs/cuscustominputpane.h"
 
 #include "common/defaulttext.h"
+#include "common/restyle.h"
 #include "ui_cuscustominputpane.h"
 
 #include <QDynamicPropertyChangeEvent>
@@ -10,7 +11,6 @@ namespace {
 
 constexpr int kPartHeight = 30;
 constexpr int kPartGap = 6;
-constexpr char kInvalid[] = "Invalid";
 
 } // namespace
 
@@ -164,13 +164,10 @@ void CusCustomInputPane::resetWidgetUiLanguage()
 
 bool CusCustomInputPane::event(QEvent *event)
 {
-    // A rule for the pane doesn't reach the spin box by itself when the client repolishes the pane.
+    // A rule for what is inside the pane isn't matched anew when the client repolishes the pane.
     if (event->type() == QEvent::DynamicPropertyChange
-        && static_cast<QDynamicPropertyChangeEvent *>(event)->propertyName() == kInvalid) {
-        const bool invalid = property(kInvalid).toBool();
-        if (d->ui.cusSpinBoxWithUnits->property(kInvalid).toBool() != invalid)
-            d->ui.cusSpinBoxWithUnits->setIsValidStyle(!invalid);
-    }
+        && static_cast<QDynamicPropertyChangeEvent *>(event)->propertyName() == "Invalid")
+        vellum::restyle(d->ui.cusSpinBoxWithUnits);
     return QWidget::event(event);
 }
 
@@ -187,13 +184,12 @@ void CusCustomInputPane::onRadioCustomClicked()
 void CusCustomInputPane::choose(bool autoChecked)
 {
     const bool changed = d->autoChecked != autoChecked;
-    const int value = autoChecked ? 0 : getCustomizeCurVal();
     applyState(autoChecked);
     const QPointer<CusCustomInputPane> alive(this);
     if (changed)
         Q_EMIT signalAutoCheckChanged();
     if (alive)
-        Q_EMIT signalCustomizeInputValChanged(autoChecked, value);
+        Q_EMIT signalCustomizeInputValChanged(autoChecked, autoChecked ? 0 : getCustomizeCurVal());
 }
 
 void CusCustomInputPane::applyState(bool autoChecked)

@@ -11,9 +11,10 @@ class CusSpinBoxWithUnits;
 /// The choice between a value that the system finds by itself, "Auto", and one that the user
 /// enters, "Customize": two radio buttons, and a spin box that shows for the second.
 ///
-/// The height is fixed: 30 pixels for each part that shows, and 6 between them. The dynamic
-/// property "Invalid" of the pane is handed on to the spin box. Object names: "widget_radios",
-/// "radioButton_auto", "radioButton_customize", "cusSpinBoxWithUnits". GUI thread only.
+/// The height is fixed: 30 pixels for each part that shows, and 6 between them. When the
+/// dynamic property "Invalid" of the pane changes, the style sheet matches the spin box anew, so
+/// that a rule for the pane can reach it. Object names: "widget_radios", "radioButton_auto",
+/// "radioButton_customize", "cusSpinBoxWithUnits". GUI thread only.
 class VELLUM_EXPORT CusCustomInputPane : public QWidget
 {
     Q_OBJECT

@@ -251,9 +251,9 @@ private Q_SLOTS:
 
     void invalidRangeShows()
     {
-        qApp->setStyleSheet(
-            QStringLiteral("QAbstractSpinBox { border: 2px solid blue }"
-                           "QAbstractSpinBox[Invalid=\"true\"] { border-color: red }"));
+        qApp->setStyleSheet(QStringLiteral(
+            "QAbstractSpinBox { border: 2px solid blue }"
+            "CusCustomInputPane[Invalid=\"true\"] QAbstractSpinBox { border-color: red }"));
         CusVerRangeInputPane pane;
         pane.setCurMinValInfo(false, 90);
         pane.setCurMaxValInfo(false, 10);
