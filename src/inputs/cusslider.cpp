@@ -4,6 +4,7 @@
 #include "common/restyle.h"
 #include "common/safeint.h"
 #include "common/saferect.h"
+#include "delegates/svgtwin.h"
 #include "inputs/sliderhandle.h"
 
 #include <QCursor>
@@ -260,7 +261,7 @@ QColor CusSlider::getTickLineColor() const
 
 int CusSlider::getSvgBtnState(const QRect &rect, const QStyleOptionSlider &option) const
 {
-    return int(vellum::SliderHandle::state(rect, option, this));
+    return int(vellum::svgTwinState(rect, option, this));
 }
 
 void CusSlider::drawSliderBtn(QPainter *painter, const QRect &rect,

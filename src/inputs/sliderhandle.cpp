@@ -5,7 +5,6 @@
 #include "delegates/styledelegatecomfun.h"
 #include "delegates/svgtwin.h"
 
-#include <QCursor>
 #include <QSlider>
 #include <QStyleOptionButton>
 
@@ -35,15 +34,6 @@ SliderHandle::SliderHandle()
 
 SliderHandle::~SliderHandle() = default;
 
-QStyle::State SliderHandle::state(const QRect &rect, const QStyleOptionSlider &option,
-                                  const QSlider *slider)
-{
-    QStyle::State shown = option.state & QStyle::State_Enabled;
-    if (rect.contains(slider->mapFromGlobal(QCursor::pos())))
-        shown |= option.state & (QStyle::State_MouseOver | QStyle::State_Sunken);
-    return shown;
-}
-
 QRect SliderHandle::rect(const QStyleOptionSlider &option, const QSlider *slider)
 {
     QRect handle = slider->style()->subControlRect(QStyle::CC_Slider, &option,
@@ -61,7 +51,7 @@ void SliderHandle::stamp(QPainter *painter, const QRect &rect, const QStyleOptio
 {
     QStyleOptionButton button;
     button.rect = rect;
-    button.state = state(rect, option, slider);
+    button.state = svgTwinState(rect, option, slider);
     StyleDelegateComFun::drawSvgBtn(painter, &button, m_twin.get(), slider->style(),
                                     CusSvgPushButton::DrawStype_Delegate);
 }

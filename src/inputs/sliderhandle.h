@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QStyle>
+#include <QtGlobal>
 
 #include <memory>
 
@@ -20,9 +20,6 @@ public:
     SliderHandle();
     ~SliderHandle();
 
-    /// The look of a stamp in \a rect: \a option's, but hovered and pressed only under the cursor.
-    static QStyle::State state(const QRect &rect, const QStyleOptionSlider &option,
-                               const QSlider *slider);
     /// The style's rectangle, moved so that its left and right edges lie within the option's.
     static QRect rect(const QStyleOptionSlider &option, const QSlider *slider);
 
