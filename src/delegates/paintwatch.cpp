@@ -11,23 +11,16 @@ namespace vellum {
 
 namespace {
 
-/// More cells than a screen shows: so many are kept where no paint event begins a round.
+/// More cells than a screen shows: so many are kept where no paint event reaches all of a view.
 constexpr int kManyCells = 16384;
 
-/// Whether a paint event for \a region reaches all that can be seen of \a viewport: children that
-/// cover a part of it are cut out of the region.
+/// Whether a paint event for \a region reaches all that can be seen of \a viewport: what opaque
+/// widgets cover, or a scroll area around the view clips, is never in the region.
 bool coversAll(const QWidget *viewport, const QRegion &region)
 {
-    if (region.rectCount() == 1)
-        return region.boundingRect().contains(viewport->rect());
-    QRegion missing = QRegion(viewport->rect()).subtracted(region);
-    const QObjectList &children = viewport->children();
-    for (const QObject *child : children) {
-        const auto *widget = qobject_cast<const QWidget *>(child);
-        if (widget && widget->isVisible() && !widget->isWindow())
-            missing -= widget->geometry();
-    }
-    return missing.isEmpty();
+    if (region.rectCount() == 1 && region.boundingRect().contains(viewport->rect()))
+        return true;
+    return viewport->visibleRegion().subtracted(region).isEmpty();
 }
 
 } // namespace
@@ -111,10 +104,11 @@ void PaintWatch::paintStarts(Watched *entry, bool paintsAll)
     int inView = 0;
     for (const Watched &other : qAsConst(m_views))
         inView += other.view ? other.round : 0;
-    if (!paintsAll || m_cells.size() <= 2 * inView || !forget())
+    const int most = paintsAll ? 2 * inView : qMax(kManyCells, 2 * inView);
+    if (m_cells.size() <= most || !forget())
         return;
     for (const Watched &other : qAsConst(m_views)) {
-        if (other.viewport && other.viewport != viewport)
+        if (other.viewport && (!paintsAll || other.viewport != viewport))
             other.viewport->update(); // what it shows was forgotten, too
     }
 }

@@ -15,6 +15,7 @@
 #include <QAbstractItemView>
 #include <QCursor>
 #include <QEvent>
+#include <QGuiApplication>
 #include <QHash>
 #include <QHelpEvent>
 #include <QPen>
@@ -99,8 +100,9 @@ struct TipStyleDelegate::Private
 {
     explicit Private(TipStyleDelegate *q)
         : paintWatch([this, q] {
-            // Whether the held button is under the cursor is read while painting.
-            if (pressedIndex.isValid())
+            // Whether the held button is under the cursor is read while painting. The release may
+            // have come beside all cells, where no delegate hears of it.
+            if (pressedIndex.isValid() && QGuiApplication::mouseButtons() != Qt::NoButton)
                 return false;
             tipInfos.clear();
             q->clearPaintCusRectInfo();
