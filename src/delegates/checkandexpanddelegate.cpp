@@ -190,16 +190,17 @@ bool CheckAndExpandDelegate::editorEvent(QEvent *event, QAbstractItemModel *mode
     if (!togglesAt(event, index))
         return ExpandStyleDelegate::editorEvent(event, model, option, index);
 
-    // The model may reset itself at the change; the client may do worse.
+    // The model may reset itself at the change, and its index is dead then; the client may do
+    // worse.
     const QPersistentModelIndex row(index);
     const QPointer<CheckAndExpandDelegate> alive(this);
+    const QPointer<const QWidget> view(option.widget);
     const bool wasChecked = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
     const Qt::CheckState state = wasChecked ? Qt::Unchecked : Qt::Checked;
     model->setData(index, state, Qt::CheckStateRole);
-    if (!alive || !row.isValid())
-        return true;
-    Q_EMIT signalDelegateChekcChanged(state, row);
-    if (!alive || !row.isValid())
+    if (alive)
+        Q_EMIT signalDelegateChekcChanged(state, row);
+    if (!alive || !row.isValid() || view.data() != option.widget)
         return true;
     return ExpandStyleDelegate::editorEvent(event, model, option, row);
 }

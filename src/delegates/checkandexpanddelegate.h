@@ -38,7 +38,8 @@ public:
     int getLeftMargin() const;
 
 Q_SIGNALS:
-    /// A press wrote \a state to the model.
+    /// A press wrote \a state to the model. \a index is invalid if the model reset itself or
+    /// removed the row over it.
     void signalDelegateChekcChanged(Qt::CheckState state, QModelIndex index);
 
 protected:

@@ -81,12 +81,13 @@ bool ExpandStyleDelegate::editorEvent(QEvent *event, QAbstractItemModel *model,
     if (mouse->button() != Qt::LeftButton || !d->expandRects.value(index).contains(mouse->pos()))
         return TipStyleDelegate::editorEvent(event, model, option, index);
 
-    // What the client does with the signal may reset the model, or delete it or this delegate.
+    // What the client does with the signal may reset the model, or delete model, view or delegate.
     const QPersistentModelIndex row(index);
     const QPointer<ExpandStyleDelegate> alive(this);
+    const QPointer<const QWidget> view(option.widget);
     const bool expanded = index.data(CusItemDataRole::RoleExpanded).toBool();
     Q_EMIT signalCusIndexExpandState(index, !expanded);
-    if (!alive || !row.isValid())
+    if (!alive || !row.isValid() || view.data() != option.widget)
         return true;
     return TipStyleDelegate::editorEvent(event, model, option, row);
 }
