@@ -24,7 +24,8 @@ QString wideStart(const QString &text, const QFontMetrics &metrics, int width)
 {
     for (int length = kLongText; length < text.size() / 2; length *= 2) {
         QString start = text.left(length);
-        if (metrics.boundingRect(start).width() > width)
+        // The cut goes by the advance, and would leave a start alone that is narrower by it.
+        if (qMin(metrics.boundingRect(start).width(), metrics.horizontalAdvance(start)) > width)
             return start;
     }
     return text;

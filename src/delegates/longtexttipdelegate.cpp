@@ -43,7 +43,8 @@ QString linesOfParts(const QString &text, const QString &separator)
             lines += text.midRef(start, end < 0 ? -1 : end - start);
     }
     if (parts > kTipLines)
-        lines += QStringLiteral("\n%1(%2)").arg(LongTextTipDelegate::tr("Total")).arg(parts);
+        lines += QStringLiteral("\n%1(%2)")
+                     .arg(LongTextTipDelegate::tr("Total"), QString::number(parts));
     return lines;
 }
 

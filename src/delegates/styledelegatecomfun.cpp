@@ -1,5 +1,7 @@
 #include "delegates/styledelegatecomfun.h"
 
+#include "common/saferect.h"
+
 #include <QApplication>
 #include <QPainter>
 #include <QRect>
@@ -54,7 +56,7 @@ bool calcItemPartRect(const QRect &cell, int mode, const QSize &size, int margin
     qint64 x = centredX;
     qint64 y = mode == DelegateIconPos_Point ? qint64(cell.y()) + point.y() : centredY;
     if (size.width() > cell.width()) {
-        out = QRect(int(cellX), int(y), cell.width(), size.height());
+        out = vellum::safeRect(cellX, y, cell.width(), size.height());
         return true;
     }
     switch (mode) {
@@ -71,6 +73,6 @@ bool calcItemPartRect(const QRect &cell, int mode, const QSize &size, int margin
     default:
         break;
     }
-    out = QRect(int(x), int(y), size.width(), size.height());
+    out = vellum::safeRect(x, y, size.width(), size.height());
     return true;
 }
