@@ -15,6 +15,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QListView>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
 #include <QStandardItemModel>
@@ -26,6 +27,7 @@
 namespace {
 
 constexpr int kRow = 30;
+constexpr QLatin1String kSeparator("; ");
 
 /// What the models and delegates of the page reported.
 struct Counters
@@ -182,6 +184,11 @@ public:
     }
 
 protected:
+    void mouseMoveEvent(QMouseEvent *event) override
+    {
+        QTableView::mouseMoveEvent(event);
+        update(indexAt(event->pos())); // the record button has a hover look of its own
+    }
     void leaveEvent(QEvent *event) override
     {
         QTableView::leaveEvent(event);
@@ -216,7 +223,7 @@ QStandardItem *severity(int level)
 QStandardItem *pieces(const QString &time, const QString &text, const QString &plate)
 {
     auto *item = new QStandardItem;
-    const QList<RichString> list = {RichString(QColor(QStringLiteral("#A0A7B4")), time),
+    const QList<RichString> list = {RichString(QColor(QStringLiteral("#C3CAD6")), time),
                                     RichString(text),
                                     RichString(QColor(QStringLiteral("#A9D1F9")), plate)};
     item->setData(QVariant::fromValue(list), Qt::DisplayRole);
@@ -361,7 +368,7 @@ private:
             auto *camera = new QStandardItem(cameras.at(row));
             camera->setData(row == 1, CusItemDataRole::RolePlaying);
             auto *recorded =
-                new QStandardItem(recorders.mid(0, 12 - 5 * (row % 3)).join(QLatin1Char(';')));
+                new QStandardItem(recorders.mid(0, 12 - 5 * (row % 3)).join(kSeparator));
             recorded->setTextAlignment(Qt::AlignCenter);
             model->appendRow(
                 {severity(row % 3), camera, recorded,
@@ -374,7 +381,7 @@ private:
         auto *record = new RecordDelegate(view);
         view->setItemDelegateForColumn(1, record);
         auto *lines = new LongTextTipDelegate(view);
-        lines->setLineBreakDisplay({2}, QStringLiteral(";"), true);
+        lines->setLineBreakDisplay({2}, kSeparator, true);
         view->setItemDelegateForColumn(2, lines);
         view->setItemDelegateForColumn(3, new PiecesDelegate(view));
         view->setColumnWidth(0, 110);

@@ -69,12 +69,13 @@ bool RecordDelegate::editorEvent(QEvent *event, QAbstractItemModel *model,
                                  const QStyleOptionViewItem &option, const QModelIndex &index)
 {
     const bool handled = TipStyleDelegate::editorEvent(event, model, option, index);
-    if (event->type() == QEvent::MouseButtonRelease
-        && m_buttonRects.value(index).contains(static_cast<QMouseEvent *>(event)->pos())) {
-        Q_EMIT recordClicked(index);
-        return true;
-    }
-    return handled;
+    if (event->type() != QEvent::MouseButtonRelease)
+        return handled;
+    const auto *mouse = static_cast<QMouseEvent *>(event);
+    if (mouse->button() != Qt::LeftButton || !m_buttonRects.value(index).contains(mouse->pos()))
+        return handled;
+    Q_EMIT recordClicked(index);
+    return true;
 }
 
 void RecordDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
