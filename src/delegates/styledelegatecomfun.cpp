@@ -7,6 +7,14 @@
 #include <QRect>
 #include <QStyleOptionButton>
 
+namespace {
+
+/// Styles draw a button through a picture of its size, for which a client's mistake must not take
+/// all memory.
+constexpr QSize kLargestStamp(2048, 2048);
+
+} // namespace
+
 void StyleDelegateComFun::drawSvgBtn(QPainter *painter, QStyleOptionButton *option,
                                      QPushButton *button, QStyle *style,
                                      CusSvgPushButton::DrawStype drawType)
@@ -22,7 +30,7 @@ void StyleDelegateComFun::drawSvgBtn(QPainter *painter, QStyleOptionButton *opti
     // A button lays its icon out from the painter's origin, so the painter goes to the cell.
     const QPoint corner = option->rect.topLeft();
     QStyleOptionButton local = *option;
-    local.rect.moveTopLeft(QPoint());
+    local.rect = QRect(QPoint(), option->rect.size().boundedTo(kLargestStamp));
     painter->translate(corner);
     svgButton->paintSvgBtn(painter, local, style, drawType);
     painter->translate(-corner);

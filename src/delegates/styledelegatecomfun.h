@@ -30,7 +30,8 @@ class VELLUM_EXPORT StyleDelegateComFun
 public:
     /// Draws \a button into \a option's rectangle in \a option's state; a twin that was never
     /// polished is polished first. A CusSvgPushButton paints its layers, any other button is drawn
-    /// by \a style. A null pointer among the first four draws nothing.
+    /// by \a style. A twin takes 2,048 pixels each way at most. A null pointer among the first four
+    /// draws nothing.
     static void drawSvgBtn(QPainter *painter, QStyleOptionButton *option, QPushButton *button,
                            QStyle *style, CusSvgPushButton::DrawStype drawType);
 
