@@ -27,7 +27,7 @@
 namespace {
 
 constexpr int kRow = 30;
-constexpr QLatin1String kSeparator("; ");
+constexpr QLatin1String kSeparator("; ", 2);
 
 /// What the models and delegates of the page reported.
 struct Counters
