@@ -96,11 +96,11 @@ public:
     /// Overwrites the identity of the node that has an equal one by T::operator<. No reset.
     void updateNodeId(const T &id);
 
-    /// The nodes that are Qt::Checked, in the order of their identities; those with children only
-    /// if \a withBranches is true.
-    QList<NodePtr> getCheckedNode(bool withBranches) const;
-    /// The nodes that are expanded, in the order of their identities.
-    QList<NodePtr> getExpandNode() const;
+    /// The identities, in their order, of the nodes that are Qt::Checked; those of nodes with
+    /// children only if \a withBranches is true.
+    QList<T> getCheckedNode(bool withBranches) const;
+    /// The identities, in their order, of the nodes that are expanded.
+    QList<T> getExpandNode() const;
     /// Replaces \a indexes by those of the expanded nodes, in the order of their identities. A node
     /// that has lost its children is collapsed by that.
     void getExpandIndex(QList<QModelIndex> &indexes) const;
@@ -113,7 +113,8 @@ public:
     /// Called after a change of checks with the states of all nodes in the tree, the root included.
     void regCheckCountChangeCb(const CheckCountCallback &callback);
     /// Asked for every identity that is created from now on, and at once for every one that there
-    /// is: a node that fails leaves the tree with all below it. No reset.
+    /// is: a node that fails leaves the tree with all below it, which is not asked about then
+    /// unless somebody holds it. No reset.
     void registerFilterNodeId(const NodeIdFilter &filter);
     void callCheckCountChangeCb();
 
@@ -138,9 +139,10 @@ private:
     void deleteTreeNodeWithChild(const T &id);
     template <typename Accepts>
     std::vector<NodePtr> nodesWith(const Accepts &accepts) const;
+    static QList<T> identitiesOf(const std::vector<NodePtr> &nodes);
     bool isReachable(const Node *top, Node *node) const;
     QModelIndex searchBelow(const Node *top, const T &id) const;
-    void takeOut(const std::vector<NodePtr> &nodes);
+    NodePtr takeOut(const NodePtr &node);
     void dropStaleExtras();
 
     mutable unsigned m_walk = 0;
@@ -290,7 +292,7 @@ void BasicTreeModel<T>::deleteTreeNodeWithChild(const T &id)
     std::vector<NodePtr> deleted; // alive to the end, so that their children can be found
     std::vector<NodePtr> pending;
     const auto deleteOne = [this, &deleted, &pending](const T &nodeId) {
-        const NodePtr node = nodeMap.find(nodeId);
+        const NodePtr node = nodeMap.node(nodeId);
         if (!node)
             return;
         if (const NodePtr parent = node->parentNode.lock()) {
@@ -326,7 +328,7 @@ QModelIndex BasicTreeModel<T>::findChildIndexByNodeId(const QModelIndex &parent,
     const Node *const top = nodeAt(parent);
     if (!top || parent.column() > 0)
         return {};
-    const NodePtr node = nodeMap.find(id);
+    const NodePtr node = nodeMap.node(id);
     // The map answers for the search wherever the identity stands once.
     const bool sure = node && node->nodeId == id && !nodeMap.isDoubled(id)
         && !(fastFindByPtr && nodeMap.hasDisplaced());
@@ -424,11 +426,13 @@ void BasicTreeModel<T>::setAllCheckStateWithFilter(Qt::CheckState state,
     const QPointer<QAbstractItemModel> self(this);
     const std::function<bool(Node *)> accepts = filter;
     for (const NodePtr &node : nodesWith([](const Node &) { return true; })) {
-        if (accepts(node.get()))
+        const bool accepted = accepts(node.get());
+        if (!self)
+            return;
+        if (accepted)
             node->checkState = state;
     }
-    if (self)
-        callCheckCountChangeCb();
+    callCheckCountChangeCb();
 }
 
 template <typename T>
@@ -463,14 +467,14 @@ template <typename T>
 typename BasicTreeModel<T>::NodePtr BasicTreeModel<T>::findOrCreateTreeNode(const T &id,
                                                                             const NodePtr &parent)
 {
-    NodePtr node = nodeMap.find(id);
+    NodePtr node = nodeMap.node(id);
     return node ? node : createTreeNode(id, parent);
 }
 
 template <typename T>
 typename BasicTreeModel<T>::NodePtr BasicTreeModel<T>::findNodeByNodeId(const T &id) const
 {
-    return nodeMap.find(id);
+    return nodeMap.node(id);
 }
 
 template <typename T>
@@ -499,7 +503,7 @@ typename BasicTreeModel<T>::NodePtr BasicTreeModel<T>::findNodeByPtr(Node *addre
     if (NodePtr node = nodeMap.lock(address))
         return node;
     const NodePtr older = fastFindByPtr ? nodeMap.displaced(address) : NodePtr();
-    return older ? nodeMap.find(older->nodeId) : NodePtr();
+    return older ? nodeMap.node(older->nodeId) : NodePtr();
 }
 
 /// nodeFromIndex() without a share in the node, for as long as nobody else is called.
@@ -553,7 +557,7 @@ bool BasicTreeModel<T>::clearChildNode(const NodePtr &node)
 template <typename T>
 void BasicTreeModel<T>::clearEmptyNodeByNodeId(const T &id)
 {
-    const NodePtr node = nodeMap.find(id);
+    const NodePtr node = nodeMap.node(id);
     if (node && node->children.isEmpty())
         deleteTreeNodeByNodeId(id);
 }
@@ -562,7 +566,7 @@ template <typename T>
 void BasicTreeModel<T>::updateNodeId(const T &id)
 {
     const T nodeId = id;
-    const NodePtr node = nodeMap.find(nodeId);
+    const NodePtr node = nodeMap.node(nodeId);
     if (!node)
         return;
     node->nodeId = nodeId;
@@ -584,20 +588,27 @@ BasicTreeModel<T>::nodesWith(const Accepts &accepts) const
 }
 
 template <typename T>
-QList<typename BasicTreeModel<T>::NodePtr>
-BasicTreeModel<T>::getCheckedNode(bool withBranches) const
+QList<T> BasicTreeModel<T>::identitiesOf(const std::vector<NodePtr> &nodes)
 {
-    const std::vector<NodePtr> checked = nodesWith([withBranches](const Node &node) {
-        return node.checkState == Qt::Checked && (withBranches || node.children.isEmpty());
-    });
-    return QList<NodePtr>(checked.begin(), checked.end());
+    QList<T> ids;
+    ids.reserve(int(nodes.size()));
+    for (const NodePtr &node : nodes)
+        ids.append(node->nodeId);
+    return ids;
 }
 
 template <typename T>
-QList<typename BasicTreeModel<T>::NodePtr> BasicTreeModel<T>::getExpandNode() const
+QList<T> BasicTreeModel<T>::getCheckedNode(bool withBranches) const
 {
-    const std::vector<NodePtr> expanded = nodesWith([](const Node &node) { return node.expanded; });
-    return QList<NodePtr>(expanded.begin(), expanded.end());
+    return identitiesOf(nodesWith([withBranches](const Node &node) {
+        return node.checkState == Qt::Checked && (withBranches || node.children.isEmpty());
+    }));
+}
+
+template <typename T>
+QList<T> BasicTreeModel<T>::getExpandNode() const
+{
+    return identitiesOf(nodesWith([](const Node &node) { return node.expanded; }));
 }
 
 template <typename T>
@@ -649,43 +660,47 @@ void BasicTreeModel<T>::registerFilterNodeId(const NodeIdFilter &filter)
     if (!passes)
         return;
     const QPointer<QAbstractItemModel> self(this);
-    std::vector<NodePtr> rejected;
-    for (const NodePtr &node : nodesWith([](const Node &) { return true; })) {
-        const bool passed = callFiterNodeIdCb(passes, node->nodeId);
-        if (!self)
-            return;
-        if (!passed)
-            rejected.push_back(node);
+    // Weak, as nodes that go with a rejected one are not asked about.
+    std::vector<std::weak_ptr<Node>> asked;
+    for (const auto &entry : nodeMap) {
+        if (entry.address != rootNode.get())
+            asked.push_back(entry);
     }
-    takeOut(rejected);
-    dropStaleExtras();
-}
-
-/// Takes \a nodes out of the map and from their parents, with all below them.
-template <typename T>
-void BasicTreeModel<T>::takeOut(const std::vector<NodePtr> &nodes)
-{
-    QSet<const Node *> gone;
-    QSet<const Node *> seen;
-    std::vector<NodePtr> parents;
-    for (const NodePtr &node : nodes) {
-        gone.insert(node.get());
-        if (nodeMap.find(node->nodeId) == node)
-            nodeMap.remove(node->nodeId, node.get());
-        NodePtr parent = node->parentNode.lock();
-        node->parentNode.reset();
+    std::vector<std::weak_ptr<Node>> parents;
+    QSet<const Node *> seen; // the weak pointers keep their addresses from being used again
+    for (const std::weak_ptr<Node> &weak : asked) {
+        const NodePtr node = weak.lock();
+        const bool stays = !node || callFiterNodeIdCb(passes, node->nodeId);
+        if (!self)
+            break;
+        const NodePtr parent = stays ? NodePtr() : takeOut(node);
         if (!parent || seen.contains(parent.get()))
             continue;
         seen.insert(parent.get());
-        parents.push_back(std::move(parent));
+        parents.push_back(parent);
     }
-    for (const NodePtr &parent : parents) {
-        QList<NodePtr> &children = parent->children;
-        const auto end =
-            std::remove_if(children.begin(), children.end(),
-                           [&gone](const NodePtr &child) { return gone.contains(child.get()); });
-        children.erase(end, children.end());
+    for (const std::weak_ptr<Node> &weak : parents) {
+        if (const NodePtr parent = weak.lock())
+            parent->children.removeAll(NodePtr());
     }
+    if (self)
+        dropStaleExtras();
+}
+
+/// Takes \a node out of the map and from its parent, which is returned and has a null child in its
+/// place: to close the ranks for each would cost the square of their number.
+template <typename T>
+typename BasicTreeModel<T>::NodePtr BasicTreeModel<T>::takeOut(const NodePtr &node)
+{
+    if (nodeMap.node(node->nodeId) == node)
+        nodeMap.remove(node->nodeId, node.get());
+    NodePtr parent = node->parentNode.lock();
+    node->parentNode.reset();
+    const int row = parent ? parent->rowOf(node.get()) : -1;
+    if (row < 0)
+        return {};
+    parent->children[row].reset();
+    return parent;
 }
 
 template <typename T>

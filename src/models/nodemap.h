@@ -40,7 +40,8 @@ public:
     bool contains(const T &id) const { return m_byId.contains(id); }
     int size() const { return m_byId.size(); }
 
-    std::shared_ptr<Node> find(const T &id) const { return m_byId.value(id).lock(); }
+    std::weak_ptr<Node> value(const T &id) const { return m_byId.value(id); }
+    std::shared_ptr<Node> node(const T &id) const { return m_byId.value(id).lock(); }
 
     /// \a address if a live node of ours is there, else null. It is not looked into.
     Node *known(void *address) const
@@ -65,7 +66,7 @@ public:
     /// Enters \a node under \a id, in place of what stood there.
     void insert(const T &id, const std::shared_ptr<Node> &node)
     {
-        const std::shared_ptr<Node> older = find(id);
+        const std::shared_ptr<Node> older = this->node(id);
         if (older && older != node)
             m_doubled.insert(id, true);
         remove(id, node.get());

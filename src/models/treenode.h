@@ -32,7 +32,7 @@ struct TreeNode
     ~TreeNode();
 
     /// Sorts the children by \a order, or by their addresses if it is empty, and those of every
-    /// node below.
+    /// node below. \a order is not asked about null children, which go last.
     void sortChild(const Order &order);
 
     T nodeId;
@@ -54,12 +54,13 @@ private:
     void sortOwnChildren(const Order &order);
     int rowOf(const TreeNode *child);
 
+    // Views ask every row for its parent: what answers that stands beside parentNode in memory.
+    TreeNode *m_parentHint = nullptr; // what parentNode was last
+    int m_rowHint = 0;                // where the parent had this node last
+    unsigned m_checked = 0;           // number of the walk that found out m_reachable
+    bool m_reachable = false;
     std::weak_ptr<TreeNode> m_self;
     std::shared_ptr<vellum::AddressSet> m_addresses; // those of the model that made this node
-    TreeNode *m_parentHint = nullptr;                // what parentNode was last
-    int m_rowHint = 0;                               // where the parent had this node last
-    unsigned m_checked = 0; // number of the walk that found out m_reachable
-    bool m_reachable = false;
 };
 
 template <typename T>
@@ -112,7 +113,10 @@ template <typename T>
 void TreeNode<T>::sortOwnChildren(const Order &order)
 {
     QList<Ptr> before = children;
-    std::vector<int> places = vellum::sortedOrder(before, order);
+    std::vector<int> places =
+        vellum::sortedOrder(before, [&order](const Ptr &left, const Ptr &right) {
+            return left && right ? order(left, right) : left && !right;
+        });
     if (!children.isSharedWith(before))
         return; // the order changed them
     before.clear();

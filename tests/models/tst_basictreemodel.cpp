@@ -307,15 +307,15 @@ private Q_SLOTS:
                                         [](Node *node) { return node->nodeId.key < 3; });
         QVERIFY(states.size() == 4 && states.value({3, 0}) == Qt::Unchecked);
         QVERIFY(states.contains({}) && tree.root()->checkState == Qt::Unchecked);
-        QCOMPARE(tree.getCheckedNode(false), QList<NodePtr>{camera});
-        QCOMPARE(tree.getCheckedNode(true), (QList<NodePtr>{camera, site}));
+        QCOMPARE(tree.getCheckedNode(false), QList<Id>{camera->nodeId});
+        QCOMPARE(tree.getCheckedNode(true), (QList<Id>{camera->nodeId, site->nodeId}));
         QVERIFY_EXCEPTION_THROWN(tree.setAllCheckStateWithFilter(Qt::Checked, {}),
                                  std::bad_function_call);
 
         const CusMulSelectedComboboxModel &popupModel = tree;
         QCOMPARE(popupModel.getNeedShowNodeCount(), 1);
         tree.setAllNodeExpandState(true);
-        QCOMPARE(tree.getExpandNode(), QList<NodePtr>{site});
+        QCOMPARE(tree.getExpandNode(), QList<Id>{site->nodeId});
         QCOMPARE(tree.getNeedShowNodeCount(), 3);
         QVERIFY(tree.clearChildNode(site) && !tree.clearChildNode(site));
         QVERIFY(tree.expandRows().isEmpty() && !site->expanded);
@@ -327,13 +327,22 @@ private Q_SLOTS:
     void filterDecidesWhichIdentitiesExist()
     {
         Tree tree;
-        const NodePtr site = tree.createTreeNode({1, 0}, tree.root());
-        tree.createTreeNode({2, 0}, site);
-        tree.registerFilterNodeId([](const Id &id) { return id.key != 1; });
+        const NodePtr held = tree.createTreeNode({1, 0}, tree.root());
+        tree.createTreeNode({2, 0}, held);
+        tree.createTreeNode({4, 0}, tree.createTreeNode({3, 0}, tree.root()));
+        QList<int> asked;
+        tree.registerFilterNodeId([&](const Id &id) {
+            asked += id.key;
+            tree.root()->sortChild(
+                [](const NodePtr &a, const NodePtr &b) { return a->nodeId < b->nodeId; });
+            return id.key % 2 == 0;
+        });
+        QCOMPARE(asked, (QList<int>{1, 2, 3})); // nobody holds what stood below the third
+        QVERIFY(tree.rowCount() == 0 && !tree.findNodeByNodeId({4, 0}));
         QVERIFY(!tree.findNodeByNodeId({1, 0}) && !tree.createTreeNode({1, 0}, tree.root()));
         QVERIFY(!tree.findOrCreateTreeNode({1, 0}, tree.root()));
-        QVERIFY(tree.findNodeByNodeId({2, 0}) && site->children.size() == 1);
-        QVERIFY(site->parentNode.expired() && !tree.indexFromNodeId({2, 0}).isValid());
+        QVERIFY(tree.findNodeByNodeId({2, 0}) && held->children.size() == 1);
+        QVERIFY(held->parentNode.expired() && !tree.indexFromNodeId({2, 0}).isValid());
     }
 
     void mayBeDeletedByWhatItCalls()
