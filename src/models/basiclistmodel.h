@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <functional>
 #include <iterator>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -268,15 +269,22 @@ int BasicListModel<T>::insertNewRows(const QList<T> &rows, int next)
     vellum::RowIndex<T> shown(sortCallback ? arrived : showData, left);
     vellum::RowIndex<T> all(allData, left);
     bool inOrder = false;
+    std::optional<vellum::RowIndex<T>> places; // of the shown rows, until one moves
     for (; next < rows.size(); ++next) {
         const T &row = rows.at(next);
         const uint hash = vellum::RowIndex<T>::hashOf(row);
-        const int known = shown.find(row, hash);
-        if (known >= 0) {
-            showData[sortCallback ? showData.indexOf(row) : known] = row;
+        int place = shown.find(row, hash);
+        if (sortCallback && place >= 0) {
+            if (!places)
+                places.emplace(showData, 0);
+            place = places->find(row, hash);
+        }
+        if (place >= 0) {
+            showData[place] = row;
             inOrder = false;
             continue;
         }
+        places.reset();
         showData.append(row);
         if (sortCallback)
             arrived.append(row);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "models/listnode.h"
+
 #include <QHash>
 #include <QMetaType>
 #include <QString>
@@ -17,6 +19,7 @@ struct CusNavigateData
     bool naviFlag = false; ///< CusItemDataRole::RoleNaviFlag
 };
 Q_DECLARE_METATYPE(CusNavigateData)
+Q_DECLARE_METATYPE(ListNode<CusNavigateData>)
 
 inline bool operator<(const CusNavigateData &left, const CusNavigateData &right)
 {

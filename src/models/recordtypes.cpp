@@ -3,7 +3,6 @@
 #include "models/anchorpointnode.h"
 #include "models/cusnavigatedata.h"
 #include "models/keyvaluedata.h"
-#include "models/listnode.h"
 #include "models/mullistnode.h"
 #include "models/navigationdata.h"
 #include "models/selectitembaseinfo.h"
@@ -18,6 +17,7 @@ bool registerAll()
     // Clients name the record so in string connections and properties.
     qRegisterMetaType<KeyValueData>("keyValueData");
     qRegisterMetaType<KeyValueData>("keyValueData&");
+    qRegisterMetaType<ListNode<CusNavigateData>>();
     qRegisterMetaType<MulListNode>();
     qRegisterMetaType<NavigationData>();
     qRegisterMetaType<SelectItemBaseInfo>();

@@ -6,6 +6,7 @@
 #include <QList>
 
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 namespace vellum {
@@ -72,10 +73,23 @@ struct HasHashFor<T, WithBases, std::void_t<decltype(qHash(HashArgument<T, WithB
 {
 };
 
-/// Whether qHash() takes a T, or a base of it.
+template <typename T, typename = void>
+struct HasOwnEquality : std::false_type
+{
+};
+
 template <typename T>
-constexpr bool hasRowHash =
-    std::is_arithmetic_v<T> || HasHashFor<T, false>::value || HasHashFor<T, true>::value;
+struct HasOwnEquality<T,
+                      std::void_t<decltype(std::declval<const T &>() == HashArgument<T, false>())>>
+    : std::true_type
+{
+};
+
+/// Whether qHash() takes a T, or a base of it whose equality is T's, too: rows that differ for the
+/// base may be equal for a T that compares by itself.
+template <typename T>
+constexpr bool hasRowHash = std::is_arithmetic_v<T> || HasHashFor<T, false>::value
+    || (HasHashFor<T, true>::value && !HasOwnEquality<T>::value);
 
 /// Finds rows of a list by operator==: by their hash if T has one, else by a scan.
 template <typename T>
