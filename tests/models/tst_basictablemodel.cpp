@@ -96,10 +96,10 @@ private Q_SLOTS:
     void deletesOneRecordOrAllThatEqualIt()
     {
         Table table(3);
-        for (int i = 0; i < 3; ++i)
-            table.append({1, {}});
+        table.append({1, {}});
+        table.append({1, {}});
         table.deleteTableModelData({1, {}}, false);
-        QCOMPARE(table.keys(), Rows({0, 2, 1, 1, 1}));
+        QCOMPARE(table.keys(), Rows({0, 2, 1, 1}));
         table.deleteTableModelData({1, {}}, true);
         QCOMPARE(table.keys(), Rows({0, 2}));
     }
