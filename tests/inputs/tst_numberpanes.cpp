@@ -1,4 +1,5 @@
 #include "support/guardedtest.h"
+#include "support/markingtranslator.h"
 #include "support/render.h"
 
 #include <Vellum/AddSubBtnPane>
@@ -15,16 +16,6 @@
 #include <tuple>
 
 namespace {
-
-class Marker : public QTranslator
-{
-public:
-    QString translate(const char *context, const char *source, const char *, int) const override
-    {
-        return QLatin1String(context) + QLatin1Char('/') + QLatin1String(source);
-    }
-    bool isEmpty() const override { return false; }
-};
 
 template <typename Part>
 Part *part(const QWidget &pane, const char *name)
@@ -283,7 +274,7 @@ private Q_SLOTS:
         CusVerRangeInputPane pane;
         pane.setMaxLabelText(QStringLiteral("Longest stay"));
         pane.setMaxRadiaoBtnTxt(QStringLiteral("None"), QStringLiteral("Customize"));
-        Marker marker;
+        MarkingTranslator marker;
         QCoreApplication::installTranslator(&marker);
         pane.resetWidgetUiLanguage();
         QCOMPARE(pane.getMinLabelText(), QStringLiteral("CusVerRangeInputPane/Min Val"));

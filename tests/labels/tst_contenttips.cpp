@@ -1,4 +1,5 @@
 #include "support/guardedtest.h"
+#include "support/markingtranslator.h"
 
 #include <Vellum/NoContentTipLabel>
 #include <Vellum/WarningTipAndJumpLink>
@@ -26,20 +27,6 @@ private:
     NoContentTipLabel *m_label = nullptr;
     const QString m_text = QStringLiteral("No cameras");
 };
-
-namespace {
-
-class Marker : public QTranslator
-{
-public:
-    QString translate(const char *context, const char *source, const char *, int) const override
-    {
-        return QLatin1String(context) + QLatin1Char('/') + QLatin1String(source);
-    }
-    bool isEmpty() const override { return false; }
-};
-
-} // namespace
 
 void TestContentTips::init()
 {
@@ -130,7 +117,7 @@ void TestContentTips::followsTheLanguage()
 {
     m_label->showTipContent(m_text, m_list, NoContentTipLabel::Show_Top, 0, 0);
     QCOMPARE(m_label->text(), m_text);
-    Marker translator;
+    MarkingTranslator translator;
     QCoreApplication::installTranslator(&translator);
     m_label->resetWidgetUiLanguage();
     QCOMPARE(m_label->text(), QStringLiteral("NoContentTipLabel/No cameras"));
