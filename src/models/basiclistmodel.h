@@ -180,7 +180,8 @@ void BasicListModel<T>::updateModelByChanged()
 template <typename T>
 void BasicListModel<T>::addListModelData(const T &row, bool unique)
 {
-    const T added = row; // it may be one of ours
+    // It may be one of ours.
+    const T added = row; // NOLINT(performance-unnecessary-copy-initialization)
     if (!unique || !showData.contains(added))
         showData.append(added);
     if (!unique || !allData.contains(added))
@@ -223,7 +224,7 @@ void BasicListModel<T>::addUnique(QList<T> &list, const QList<T> &rows,
 template <typename T>
 void BasicListModel<T>::addShowModelData(const T &row)
 {
-    const T added = row;
+    const T added = row; // NOLINT(performance-unnecessary-copy-initialization)
     showData.append(added);
     allData.append(added);
     updateModel();
@@ -232,7 +233,7 @@ void BasicListModel<T>::addShowModelData(const T &row)
 template <typename T>
 void BasicListModel<T>::addFilterModelData(const T &row)
 {
-    const T added = row;
+    const T added = row; // NOLINT(performance-unnecessary-copy-initialization)
     filteredData.append(added);
     allData.append(added);
     updateModel();

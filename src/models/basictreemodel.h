@@ -447,8 +447,8 @@ typename BasicTreeModel<T>::NodePtr BasicTreeModel<T>::createTreeNode(const T &i
 {
     const QPointer<QAbstractItemModel> self(this);
     const NodeIdFilter filter = filterNodeIdCb;
-    const T nodeId = id;
-    // What the filter calls may change what the reference refers to.
+    // What the filter calls may change what the references refer to.
+    const T nodeId = id;          // NOLINT(performance-unnecessary-copy-initialization)
     const NodePtr above = parent; // NOLINT(performance-unnecessary-copy-initialization)
     if (!callFiterNodeIdCb(filter, nodeId) || !self)
         return {};
@@ -565,7 +565,7 @@ void BasicTreeModel<T>::clearEmptyNodeByNodeId(const T &id)
 template <typename T>
 void BasicTreeModel<T>::updateNodeId(const T &id)
 {
-    const T nodeId = id;
+    const T nodeId = id; // NOLINT(performance-unnecessary-copy-initialization)
     const NodePtr node = nodeMap.node(nodeId);
     if (!node)
         return;
