@@ -1,5 +1,6 @@
 #include "support/guardedtest.h"
 
+#include <Vellum/AnchorPointNode>
 #include <Vellum/BasicListModel>
 #include <Vellum/CusNavigateData>
 #include <Vellum/KeyValueData>
@@ -390,6 +391,10 @@ private Q_SLOTS:
         CusNavigateData page;
         page.naviText = QStringLiteral("Live view");
         QVERIFY(ListNode<CusNavigateData>(page, {1, 2}) == ListNode<CusNavigateData>());
+
+        const AnchorPointNode anchor{1, QStringLiteral("Cameras")};
+        QVERIFY((anchor != AnchorPointNode{2, anchor.anchorText})
+                && (anchor != AnchorPointNode{1, {}}));
 
         const SelectItemListModel model;
         for (const char *name : {"keyValueData", "keyValueData&"})
