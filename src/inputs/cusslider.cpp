@@ -312,6 +312,9 @@ void CusSlider::mouseReleaseEvent(QMouseEvent *event)
 
 void CusSlider::mouseMoveEvent(QMouseEvent *event)
 {
+    // A release is lost where the value's signal opened a modal window.
+    if (!(event->buttons() & Qt::LeftButton))
+        d->mousePressed = false;
     if (d->checkValidRange && (value() < d->validMin || value() > d->validMax))
         return;
     const QPointer<CusSlider> alive(this);

@@ -93,6 +93,9 @@ void CusTickTwoSideSlider::mouseReleaseEvent(QMouseEvent *event)
 void CusTickTwoSideSlider::mouseMoveEvent(QMouseEvent *event)
 {
     const QPointer<CusTickTwoSideSlider> alive(this);
+    // A release is lost where the value's signal opened a modal window.
+    if (!(event->buttons() & Qt::LeftButton))
+        d->dragging = false;
     // CusSlider's own jump has another scale. NOLINTNEXTLINE(bugprone-parent-virtual-call)
     QSlider::mouseMoveEvent(event); // clazy:exclude=skipped-base-method
     if (alive && d->dragging)

@@ -114,6 +114,7 @@ private:
     bool askOrder(const Ask &ask);
 
     bool m_sorting = false;
+    unsigned m_orders = 0; // how often another order was set
 };
 
 template <typename T>
@@ -257,12 +258,13 @@ void BasicListModel<T>::insertListModelDataWithUpdate(const QList<T> &rows)
         next = insertNewRows(incoming, next);
 }
 
-/// Takes \a rows in from the place \a next on, until somebody changes the lists meanwhile; returns
-/// the place that comes after.
+/// Takes \a rows in from the place \a next on, until somebody changes lists or order meanwhile;
+/// returns the place that comes after.
 template <typename T>
 int BasicListModel<T>::insertNewRows(const QList<T> &rows, int next)
 {
     const QPointer<QAbstractItemModel> self(this);
+    const unsigned orders = m_orders;
     const int left = rows.size() - next;
     // Under an order the shown rows move about, and only a list that they join at the end can be
     // indexed.
@@ -301,7 +303,7 @@ int BasicListModel<T>::insertNewRows(const QList<T> &rows, int next)
         inOrder = true;
         const QList<T> shownBefore = showData;
         updateModel();
-        if (!self || !untouched || !showData.isSharedWith(shownBefore)
+        if (!self || !untouched || m_orders != orders || !showData.isSharedWith(shownBefore)
             || !allData.isSharedWith(allBefore))
             return next + 1;
     }
@@ -378,6 +380,7 @@ template <typename T>
 void BasicListModel<T>::setSortCallback(const RowOrder &order)
 {
     sortCallback = order;
+    ++m_orders;
 }
 
 template <typename T>

@@ -28,6 +28,13 @@ void press(QWidget *widget, int x, Qt::MouseButton button = Qt::LeftButton)
     QTest::mousePress(widget, button, {}, QPoint(x, widget->height() / 2));
 }
 
+/// The cursor comes back after a modal window took the release.
+void moveWithoutButton(QWidget *widget, int x)
+{
+    QMouseEvent move(QEvent::MouseMove, QPoint(x, 10), Qt::NoButton, Qt::NoButton, {});
+    QApplication::sendEvent(widget, &move);
+}
+
 void release(QWidget *widget)
 {
     QTest::mouseRelease(widget, Qt::LeftButton);
@@ -482,6 +489,22 @@ private Q_SLOTS:
         QVERIFY(qAbs(used.left() - 67) <= 3); // to the handle's edge
         slider.setToSegment(false, 50);
         QCOMPARE(extent(slider, Qt::blue).left(), 101);
+    }
+
+    void aLostReleaseEndsThePress()
+    {
+        CusTickTwoSideSlider tick;
+        CusSlider plain;
+        for (CusSlider *slider : {&plain, static_cast<CusSlider *>(&tick)}) {
+            slider->resize(200, 20);
+            slider->setRange(0, 100);
+            press(slider, 50);
+            const int value = slider->value();
+            moveWithoutButton(slider, 150);
+            QCOMPARE(slider->value(), value);
+            slider->setValue(value + 1);
+            QCOMPARE(slider->value(), value + 1);
+        }
     }
 
     void tickSliderHasAScaleForEachHalf()

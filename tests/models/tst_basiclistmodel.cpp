@@ -333,6 +333,16 @@ private Q_SLOTS:
         QCOMPARE(model.state(), QStringLiteral("||"));
     }
 
+    void takesAnOrderThatASlotSets()
+    {
+        Rows<Camera> model;
+        model.setListModelData({{3, 0}, {1, 0}});
+        connect(&model, &QAbstractItemModel::modelReset, this,
+                [&model] { model.setSortCallback(inOrder); });
+        model.insertListModelDataWithUpdate({{4, 0}, {2, 0}, {1, 5}, {3, 5}});
+        QCOMPARE(textOf(model.getAllModelShowData()), QStringLiteral("1.5 2.0 3.5 4.0"));
+    }
+
     void checkListAnswersItsRoles()
     {
         Proper<SelectItemListModel> model;
