@@ -9,8 +9,9 @@
 class QStyleOptionButton;
 
 /// A check box whose indicator is an SVG button of the application's style sheet:
-/// CusSvgPushButton#btn_checkBoxChecked while it is checked, #btn_checkBoxUnchecked otherwise. The
-/// latter also stands for a partly checked box, which a sheet can tell by ":indeterminate".
+/// a CusSvgPushButton named "btn_checkBoxChecked" while it is checked, "btn_checkBoxUnchecked"
+/// otherwise. The latter also stands for a partly checked box, which a sheet can tell by
+/// ":indeterminate".
 ///
 /// A label that is wider than the box less an ellipsis is elided and becomes the box's tool tip;
 /// the tip stays when the label changes. With checkLabelWordWrap the label wraps instead, the box

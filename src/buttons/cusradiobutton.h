@@ -7,8 +7,8 @@
 #include <memory>
 
 /// A radio button whose indicator is an SVG button of the application's style sheet:
-/// CusSvgPushButton#btn_radioChecked while it is checked, with the dynamic property
-/// "radiobtnchecked", and #btn_radioUnChecked otherwise, with "radiobtnunchecked".
+/// a CusSvgPushButton named "btn_radioChecked" while it is checked, with the dynamic property
+/// "radiobtnchecked", and "btn_radioUnChecked" otherwise, with "radiobtnunchecked".
 ///
 /// A label that is wider than the button less an ellipsis is elided and becomes the button's tool
 /// tip; the tip stays when the label changes. Keyboard, focus and accessibility are QRadioButton's.

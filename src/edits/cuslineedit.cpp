@@ -191,7 +191,8 @@ void CusLineEdit::setSurpotTrailBtn(bool support)
             d->trailAction->setVisible(false);
         return;
     }
-    if (d->trailAction) {
+    const bool replaces = d->trailAction;
+    if (replaces) {
         // QWidgetAction deletes a default widget at once when it gets another. A sheet that sets
         // the property again does so while Qt goes over a list of all widgets, so the old pair
         // lives on, outside the edit, until that is done.
@@ -200,6 +201,9 @@ void CusLineEdit::setSurpotTrailBtn(bool support)
     }
     d->trailAction = new QWidgetAction(this);
     d->trailBtn = d->addButton(this, d->trailAction, TrailingPosition, &Private::trailFun);
+    // A sheet that is matched anew doesn't bring back what the empty text hides.
+    if (replaces && d->enableNoTextNotShowTrailBtn)
+        d->showTrailButton(!QLineEdit::text().isEmpty());
 }
 
 bool CusLineEdit::getSurpotTrailBtn() const

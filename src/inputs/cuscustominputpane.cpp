@@ -183,19 +183,21 @@ void CusCustomInputPane::onRadioCustomClicked()
 
 void CusCustomInputPane::choose(bool autoChecked)
 {
+    const QPointer<CusCustomInputPane> alive(this);
     const bool changed = d->autoChecked != autoChecked;
     applyState(autoChecked);
-    const QPointer<CusCustomInputPane> alive(this);
-    if (changed)
+    if (changed && alive)
         Q_EMIT signalAutoCheckChanged();
     if (alive)
-        Q_EMIT signalCustomizeInputValChanged(autoChecked, autoChecked ? 0 : getCustomizeCurVal());
+        Q_EMIT signalCustomizeInputValChanged(d->autoChecked,
+                                              d->autoChecked ? 0 : getCustomizeCurVal());
 }
 
 void CusCustomInputPane::applyState(bool autoChecked)
 {
     d->autoChecked = autoChecked;
-    d->ui.cusSpinBoxWithUnits->setVisible(!autoChecked);
     const int parts = (d->radiosVisible ? 1 : 0) + (autoChecked ? 0 : 1);
     setFixedHeight(parts * kPartHeight + (parts > 1 ? kPartGap : 0));
+    // Last, since a box that loses the focus by it runs the client's code.
+    d->ui.cusSpinBoxWithUnits->setVisible(!autoChecked);
 }

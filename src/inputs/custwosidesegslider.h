@@ -30,9 +30,9 @@ public:
     /// Numbers beyond the last segment end at the slider's end.
     void setToSegment(bool isLeft, int segNum);
 
-    /// #A0A7B4 at first; an invalid colour is ignored.
+    /// "#A0A7B4" at first; an invalid colour is ignored.
     void setDefaultGrooveBrushColor(const QColor &color);
-    /// Of the bar from the centre to the handle, #429EF6 at first; an invalid colour is ignored.
+    /// Of the bar from the centre to the handle, "#429EF6" at first; an invalid colour is ignored.
     void setUsedGrooveBrushColor(const QColor &color);
     QColor getUsedGrooveBrushColor() const;
     /// Of the line on the centre, white at first.

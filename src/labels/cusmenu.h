@@ -22,8 +22,8 @@ class QStyleOptionMenuItem;
 /// The menu grows from 180 pixels with each row that is added through this class, to its maximum
 /// width, 400 at first, and doesn't narrow again. It is frameless and translucent, so that a sheet
 /// can round its corners. The marks are hidden buttons of the application's style sheet:
-/// CusSvgPushButton#btn_menuCheckBoxChecked, #btn_menuArrowRight and, in right-to-left layout,
-/// #btn_menuArrowDown.
+/// each a CusSvgPushButton, named "btn_menuCheckBoxChecked", "btn_menuArrowRight" and, in
+/// right-to-left layout, "btn_menuArrowDown".
 class VELLUM_EXPORT CusMenu : public QMenu
 {
     Q_OBJECT

@@ -201,6 +201,9 @@ private Q_SLOTS:
         }
         QCOMPARE(seen, QStringLiteral("00110000"));
         m_edit->setEnableNoTextNotShowTrailBtn(true);
+        m_edit->clear();
+        m_edit->setSurpotTrailBtn(true);
+        QVERIFY(shownButtons(m_edit).empty());
         m_edit->setText(QStringLiteral("   "));
         QVERIFY(!shownButtons(m_edit).empty());
     }
